@@ -1,0 +1,52 @@
+# What all targets of this project are built with, and how a library of it is made.
+
+set( CMAKE_C_STANDARD 11 )
+set( CMAKE_CXX_STANDARD 20 )
+set( CMAKE_C_STANDARD_REQUIRED ON )
+set( CMAKE_CXX_STANDARD_REQUIRED ON )
+set( CMAKE_CXX_EXTENSIONS OFF )
+set( CMAKE_POSITION_INDEPENDENT_CODE ON )
+set( CMAKE_C_VISIBILITY_PRESET hidden )
+set( CMAKE_CXX_VISIBILITY_PRESET hidden )
+set( CMAKE_VISIBILITY_INLINES_HIDDEN ON )
+
+add_library( tolmo_options INTERFACE )
+target_compile_options( tolmo_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    # Abort lines name files as they stand in the repository, wherever it was built.
+    -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=
+)
+if( TOLMO_SANITIZE )
+    target_compile_options( tolmo_options INTERFACE
+        -fsanitize=${TOLMO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS )
+    target_link_options( tolmo_options INTERFACE -fsanitize=${TOLMO_SANITIZE} )
+endif()
+if( TOLMO_COVERAGE )
+    target_compile_options( tolmo_options INTERFACE --coverage -O0 -fno-inline )
+    target_link_options( tolmo_options INTERFACE --coverage )
+endif()
+
+# tolmo_library( NAME MODULE FOLDER NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.
+function( tolmo_library name folder )
+    file( GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp )
+    file( GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h )
+    add_library( ${name} ${sources} )
+    add_library( tolmo::${name} ALIAS ${name} )
+    target_include_directories( ${name} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/source>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/tolmo-${PROJECT_VERSION_MAJOR}> )
+    target_link_libraries( ${name} PUBLIC ${ARGN} PRIVATE $<BUILD_INTERFACE:tolmo_options> )
+    target_compile_options( ${name} PRIVATE -fno-exceptions -fno-rtti -fno-semantic-interposition )
+    set_target_properties( ${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} )
+    # Calls inside a library are direct. Nothing of the C++ library is needed at run time.
+    set( map ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/lib${name}.map )
+    if( BUILD_SHARED_LIBS )
+        target_link_options( ${name} PRIVATE
+            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--no-undefined -Wl,--as-needed )
+        set_target_properties( ${name} PROPERTIES LINK_DEPENDS ${map} )
+    endif()
+    install( TARGETS ${name} EXPORT tolmo-targets
+        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} )
+    install( FILES ${headers}
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolmo-${PROJECT_VERSION_MAJOR}/${folder} )
+endfunction()

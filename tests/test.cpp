@@ -1,0 +1,66 @@
+/* Child processes for statements that must abort, and the program's entry. */
+#include "test.h"
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cctype>
+#include <csignal>
+
+namespace test {
+
+Ending RunInChild( const std::function<void()> &statement )
+{
+    int ends[2];
+    if ( pipe( ends ) != 0 ) {
+        return {};
+    }
+    const pid_t child = fork();
+    if ( child == 0 ) {
+        const rlimit noCore{ 0, 0 };
+        setrlimit( RLIMIT_CORE, &noCore );
+        std::signal( SIGABRT, SIG_DFL );
+        dup2( ends[1], STDERR_FILENO );
+        close( ends[0] );
+        close( ends[1] );
+        statement();
+        _exit( 0 );
+    }
+    close( ends[1] );
+    Ending ending;
+    char part[512];
+    for ( ssize_t n; ( n = read( ends[0], part, sizeof part ) ) > 0; ) {
+        ending.line.append( part, static_cast<size_t>( n ) );
+    }
+    close( ends[0] );
+    int status = 0;
+    waitpid( child, &status, 0 );
+    ending.aborted = WIFSIGNALED( status ) && WTERMSIG( status ) == SIGABRT;
+    if ( !ending.line.empty() && ending.line.back() == '\n' ) {
+        ending.line.pop_back();
+    }
+    return ending;
+}
+
+bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path, std::string_view expression )
+{
+    std::string begin = message.empty() ? std::string() : std::string( message ) + ": ";
+    begin += std::string( path ) + ":";
+    if ( line.compare( 0, begin.size(), begin ) != 0 ) {
+        return false;
+    }
+    size_t at = begin.size();
+    while ( at < line.size() && std::isdigit( static_cast<unsigned char>( line[at] ) ) ) {
+        ++at;
+    }
+    return at > begin.size() && line.substr( at ) == ": " + std::string( expression );
+}
+
+} // namespace test
+
+int main( int argc, char **argv )
+{
+    testing::InitGoogleTest( &argc, argv );
+    return RUN_ALL_TESTS();
+}
