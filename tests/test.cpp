@@ -43,7 +43,8 @@ Ending RunInChild( const std::function<void()> &statement )
     return ending;
 }
 
-bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path, std::string_view expression )
+bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
+                  std::string_view expression )
 {
     std::string begin = message.empty() ? std::string() : std::string( message ) + ": ";
     begin += std::string( path ) + ":";

@@ -95,7 +95,8 @@ struct Ending {
 Ending RunInChild( const std::function<void()> &statement );
 
 /** True when `line` is the abort line of `expression` in the file `path` (without its line number), with `message`. */
-bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path, std::string_view expression );
+bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
+                  std::string_view expression );
 
 /** The reference count of an object that is no constant. */
 template <class Handle>
@@ -125,8 +126,8 @@ private:
         const test::Ending ending = test::RunInChild( [&] { statement; } );                                            \
         EXPECT_TRUE( ending.aborted ) << #statement << " did not abort";                                               \
         EXPECT_TRUE( test::IsAbortLine( ending.line, message, path, expression ) )                                     \
-            << #statement << "\n  wrote:    " << ending.line << "\n  expected: " << ( message ) << ( path ) << ":*: "  \
-            << ( expression );                                                                                         \
+            << #statement << "\n  wrote:    " << ending.line << "\n  expected: " << ( message ) << ( path )            \
+            << ":*: " << ( expression );                                                                               \
     } while ( 0 )
 
 #endif

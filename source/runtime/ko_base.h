@@ -24,11 +24,11 @@ typedef int32_t KoBool;
 /** A Unicode code point. */
 typedef int32_t KoChar;
 
-#define KO_FALSE ( (KoBool) 0 )
-#define KO_TRUE ( (KoBool) 1 )
+#define KO_FALSE ( (KoBool)0 )
+#define KO_TRUE ( (KoBool)1 )
 
-#define KO_CHAR_LINE_FEED ( (KoChar) 0x0A )
-#define KO_CHAR_CARRIAGE_RETURN ( (KoChar) 0x0D )
+#define KO_CHAR_LINE_FEED ( (KoChar)0x0A )
+#define KO_CHAR_CARRIAGE_RETURN ( (KoChar)0x0D )
 
 /** True when `ch` is a code point: 0 to 0x10FFFF. */
 #define KO_CHAR_OK( ch ) ( ( ch ) >= 0 && ( ch ) <= 0x10FFFF )
@@ -79,7 +79,7 @@ KO_END_DECLS
 
 /** KO_REQUIRE_AS with a message in front. */
 #define KO_REQUIRE_MESSAGE( expression, message, text )                                                                \
-    ( __builtin_expect( !!( expression ), 1 ) ? (void) 0 : ko___Abort( message, __FILE__, __LINE__, text ) )
+    ( __builtin_expect( !!( expression ), 1 ) ? (void)0 : ko___Abort( message, __FILE__, __LINE__, text ) )
 
 /** The precondition of every mutator: neither the address of the handle nor the handle is null, in this order. */
 #define KO_REQUIRE_HANDLE( address )                                                                                   \

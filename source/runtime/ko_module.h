@@ -37,7 +37,10 @@ struct ko___ModuleObject {
 /** The initialiser of a module. */
 #define KO_MODULE( record, start, stop )                                                                               \
     {                                                                                                                  \
-        { 2, 0, -1, 1, 0, 0, 0, 0, 0, 0 }, record, start, 0, stop, { 0, 0, 0, 0, 0, 0 }                                \
+        { 2, 0, -1, 1, 0, 0, 0, 0, 0, 0 }, record, start, 0, stop,                                                     \
+        {                                                                                                              \
+            0, 0, 0, 0, 0, 0                                                                                           \
+        }                                                                                                              \
     }
 
 /**

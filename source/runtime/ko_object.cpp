@@ -8,7 +8,7 @@
 
 KoObj ko___ObjCreate( KoInt size, KoSort sort )
 {
-    KO_REQUIRE( size >= (KoInt) sizeof( struct ko___Obj ) );
+    KO_REQUIRE( size >= (KoInt)sizeof( struct ko___Obj ) );
     KO_REQUIRE( sort );
     const ko::Block block = ko::Allocate( static_cast<size_t>( size ) );
     memset( block.memory, 0, static_cast<size_t>( size ) );
@@ -90,6 +90,7 @@ KoInt koObjCompare( KoObj a, KoObj b )
 KoString koObjToString( KoObj obj )
 {
     KO_REQUIRE( obj );
-    return obj->sort->toString ? obj->sort->toString( obj )
-                               : koStringCreateFromFormatCstr( "<%~s>", -1, koStringCreateFromCstr( obj->sort->name, -1 ) );
+    return obj->sort->toString
+               ? obj->sort->toString( obj )
+               : koStringCreateFromFormatCstr( "<%~s>", -1, koStringCreateFromCstr( obj->sort->name, -1 ) );
 }

@@ -12,7 +12,7 @@ typedef struct ko___ModuleObject *KoModule;
 /** The head of every object. What stands behind it belongs to the object's sort. */
 struct ko___Obj {
     const struct ko___Sort *sort;
-    int32_t count; /* references; negative for a constant, which is neither counted nor freed */
+    int32_t count;      /* references; negative for a constant, which is neither counted nor freed */
     int32_t blockClass; /* the size class that the block goes back to, see ko_memory */
 };
 
@@ -43,7 +43,10 @@ typedef const struct ko___Sort *KoSort;
 /** The initialiser of a sort record. */
 #define KO_SORT( module, name, free, compare, toString )                                                               \
     {                                                                                                                  \
-        { 1, 0, -1, 1, 0, 0, 0, 0, 0, 0 }, module, name, free, compare, toString, { 0, 0, 0, 0, 0 }                    \
+        { 1, 0, -1, 1, 0, 0, 0, 0, 0, 0 }, module, name, free, compare, toString,                                      \
+        {                                                                                                              \
+            0, 0, 0, 0, 0                                                                                              \
+        }                                                                                                              \
     }
 
 /** The count of a constant: an object that all threads share, that is never counted, never unique and never freed. */
