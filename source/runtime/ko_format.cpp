@@ -5,9 +5,6 @@
 
 namespace {
 
-constexpr KoInt flagCapitals = 1;
-constexpr KoInt flagZeros = 2;
-
 /** The text of a number: blanks, a minus sign, zeros, digits. */
 class IntText {
 public:
@@ -17,15 +14,15 @@ public:
         auto rest = static_cast<uint64_t>( value );
         rest = negative ? 0 - rest : rest;
         const auto divisor = static_cast<uint64_t>( base );
-        const char *const alphabet =
-            flags & flagCapitals ? "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ" : "0123456789abcdefghijklmnopqrstuvwxyz";
+        const char *const alphabet = flags & KO_FORMAT_CAPITALS ? "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ"
+                                                                : "0123456789abcdefghijklmnopqrstuvwxyz";
         do {
             const uint64_t quotient = base == 10 ? rest / 10 : rest / divisor; // by a constant it is no division
             digits[--first] = alphabet[rest - quotient * divisor];
             rest = quotient;
         } while ( rest );
         const KoInt padding = koIntMax( 0, width - DigitCount() );
-        ( flags & flagZeros ? zeros : blanks ) = padding;
+        ( flags & KO_FORMAT_ZEROS ? zeros : blanks ) = padding;
     }
 
     [[nodiscard]] KoInt Length() const { return blanks + negative + zeros + DigitCount(); }
@@ -95,10 +92,10 @@ public:
     bool TakeInt( IntDirective *directive )
     {
         if ( Take( '^' ) ) {
-            directive->flags |= flagCapitals;
+            directive->flags |= KO_FORMAT_CAPITALS;
         }
         if ( Take( '0' ) ) {
-            directive->flags |= flagZeros;
+            directive->flags |= KO_FORMAT_ZEROS;
             if ( !TakeNumber( &directive->width ) ) {
                 return false;
             }
@@ -311,7 +308,7 @@ KoString koFormatEncodeInt( KoInt value, KoInt base, KoInt width, KoInt flags )
 {
     KO_REQUIRE( base >= 2 && base <= 36 );
     KO_REQUIRE( width >= 0 && width <= INT32_MAX );
-    KO_REQUIRE( ( flags & ~3 ) == 0 );
+    KO_REQUIRE( ( flags & ~( KO_FORMAT_CAPITALS | KO_FORMAT_ZEROS ) ) == 0 );
     const IntText text( value, base, width, flags );
     const KoString s = ko::CreateUninitialised( text.Length() );
     text.Write( ko::Chars( s ) );

@@ -209,8 +209,9 @@ KoString CreateUninitialised( KoInt length )
 void Trim( KoString *s, KoInt length )
 {
     const KoString whole = *s;
+    const KoInt cut = whole->length - length;
     whole->length = length;
-    if ( whole->capacity - length > whole->capacity / 4 ) {
+    if ( cut > whole->capacity / 4 ) {
         *s = Copy( Chars( whole ), length );
         koStringRelease( whole );
     }
