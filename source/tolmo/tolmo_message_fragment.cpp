@@ -10,9 +10,9 @@
 namespace {
 
 using Fragment = tolmo___MessageFragment;
-using AllFields = tolmo::Fields<&Fragment::requestMethod, &Fragment::requestIri, &Fragment::responseStatusCode,
-                                &Fragment::responseReasonPhrase, &Fragment::version, &Fragment::headers,
-                                &Fragment::body>;
+using AllFields =
+    tolmo::Fields<&Fragment::requestMethod, &Fragment::requestIri, &Fragment::responseStatusCode,
+                  &Fragment::responseReasonPhrase, &Fragment::version, &Fragment::headers, &Fragment::body>;
 static_assert( tolmo::namesAllFields<Fragment, AllFields> );
 
 TOLMO_FREE( MessageFragment, frag, AllFields )

@@ -114,9 +114,11 @@ KO_API void tolmoMessageFragmentSetRequestMethodWcstr( TolmoMessageFragment *fra
 KO_API void tolmoMessageFragmentSetRequestIri( TolmoMessageFragment *frag, KoString iri );
 KO_API void tolmoMessageFragmentSetRequestIriCstr( TolmoMessageFragment *frag, const char *chs, KoInt length );
 KO_API void tolmoMessageFragmentSetRequestIriWcstr( TolmoMessageFragment *frag, const uint16_t *chs, KoInt length );
-KO_API void tolmoMessageFragmentSetResponseStatusCode( TolmoMessageFragment *frag, KoInt sc, KoBool adjustReasonPhrase );
+KO_API void tolmoMessageFragmentSetResponseStatusCode( TolmoMessageFragment *frag, KoInt sc,
+                                                       KoBool adjustReasonPhrase );
 KO_API void tolmoMessageFragmentSetResponseReasonPhrase( TolmoMessageFragment *frag, KoString reasonPhrase );
-KO_API void tolmoMessageFragmentSetResponseReasonPhraseCstr( TolmoMessageFragment *frag, const char *chs, KoInt length );
+KO_API void tolmoMessageFragmentSetResponseReasonPhraseCstr( TolmoMessageFragment *frag, const char *chs,
+                                                             KoInt length );
 KO_API void tolmoMessageFragmentSetResponseReasonPhraseWcstr( TolmoMessageFragment *frag, const uint16_t *chs,
                                                               KoInt length );
 KO_API void tolmoMessageFragmentSetVersion( TolmoMessageFragment *frag, TolmoVersion version );
@@ -134,7 +136,8 @@ KO_API KoBool tolmoMessageFragmentHasHeaderWcstr( TolmoMessageFragment frag, con
 /** The header of a name. @return new reference, or null. */
 KO_API TolmoMessageHeader tolmoMessageFragmentHeader( TolmoMessageFragment frag, KoString name );
 KO_API TolmoMessageHeader tolmoMessageFragmentHeaderCstr( TolmoMessageFragment frag, const char *chs, KoInt length );
-KO_API TolmoMessageHeader tolmoMessageFragmentHeaderWcstr( TolmoMessageFragment frag, const uint16_t *chs, KoInt length );
+KO_API TolmoMessageHeader tolmoMessageFragmentHeaderWcstr( TolmoMessageFragment frag, const uint16_t *chs,
+                                                           KoInt length );
 /** The header `Content-Length`. @return new reference, or null. */
 KO_API TolmoMessageHeader tolmoMessageFragmentHeaderContentLength( TolmoMessageFragment frag );
 /** @} */

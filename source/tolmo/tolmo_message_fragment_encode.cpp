@@ -156,7 +156,7 @@ private:
     }
 
     TolmoMessageFragment frag;
-    KoRef<KoString> uri; // of a request
+    KoRef<KoString> uri;  // of a request
     KoRef<KoString> code; // of a response
     KoRef<KoString> phrase;
     KoRef<KoString> version;
