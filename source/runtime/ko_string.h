@@ -34,6 +34,8 @@ KO_API KoString koStringCreateFromWcstr( const uint16_t *chs, KoInt length );
 KO_API KoString koStringCreateFromCharsCopy( const KoChar *chs, KoInt length );
 KO_API KoString koStringCreateFromInner( KoString s, KoInt offset, KoInt length );
 KO_API KoString koStringCreateFromLeading( KoString s, KoInt length );
+/** A new unique string of the length whose characters are not set: for code that fills it at once. @pre length >= 0 */
+KO_API KoString ko___StringCreateOfLength( KoInt length );
 /** @} */
 
 /** @name Formatted creation

@@ -15,6 +15,13 @@ struct Text {
     Text( const KoChar *first, KoInt count ) : chs( first ), length( count ) {}
     explicit Text( KoString s ) : chs( ko::Chars( s ) ), length( s->length ) {}
 
+    /** True when the characters are exactly those of an array. */
+    template <size_t count>
+    [[nodiscard]] bool Is( const KoChar ( &other )[count] ) const
+    {
+        return length == static_cast<KoInt>( count ) && ko::SameChars( chs, other, length );
+    }
+
     [[nodiscard]] KoRef<KoString> Copy() const
     {
         return KoRef<KoString>::Adopt( koStringCreateFromCharsCopy( chs, length ) );

@@ -1,0 +1,195 @@
+/* UTF-8 (RFC 3629), strictly: one character at a time, and kernels for runs of ASCII. Not installed. */
+#ifndef KO_UTF8_HPP
+#define KO_UTF8_HPP
+
+#include <runtime/ko_base.h>
+
+#include <bit>
+#include <cstring>
+
+#if defined( __SSE2__ )
+#include <emmintrin.h>
+#endif
+
+namespace ko {
+
+/** What stands for text that is none. */
+constexpr KoChar replacementChar = 0xFFFD;
+
+/** True for what UTF-8 can carry: a code point that is no surrogate. */
+constexpr bool IsScalarValue( KoChar ch )
+{
+    return KO_CHAR_OK( ch ) && ( ch & 0x1FF800 ) != 0xD800;
+}
+
+/** How many bytes are ASCII before the first that is not. */
+inline KoInt AsciiLength( const uint8_t *bytes, KoInt length )
+{
+    KoInt i = 0;
+#if defined( __SSE2__ )
+    for ( ; length - i >= 16; i += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + i ) );
+        if ( const auto others = static_cast<unsigned>( _mm_movemask_epi8( block ) ) ) {
+            return i + std::countr_zero( others );
+        }
+    }
+#else
+    for ( uint64_t block; length - i >= 8; i += 8 ) {
+        memcpy( &block, bytes + i, sizeof block );
+        if ( block & 0x8080808080808080 ) {
+            break;
+        }
+    }
+#endif
+    while ( i < length && bytes[i] < 0x80 ) {
+        ++i;
+    }
+    return i;
+}
+
+/** Widens bytes to characters up to the first that is not ASCII, and returns how many. */
+inline KoInt WidenAscii( KoChar *to, const uint8_t *from, KoInt length )
+{
+    KoInt i = 0;
+#if defined( __SSE2__ )
+    const __m128i zero = _mm_setzero_si128();
+    for ( ; length - i >= 16; i += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from + i ) );
+        if ( _mm_movemask_epi8( block ) ) {
+            break;
+        }
+        const __m128i low = _mm_unpacklo_epi8( block, zero );
+        const __m128i high = _mm_unpackhi_epi8( block, zero );
+        auto *const out = reinterpret_cast<__m128i *>( to + i );
+        _mm_storeu_si128( out, _mm_unpacklo_epi16( low, zero ) );
+        _mm_storeu_si128( out + 1, _mm_unpackhi_epi16( low, zero ) );
+        _mm_storeu_si128( out + 2, _mm_unpacklo_epi16( high, zero ) );
+        _mm_storeu_si128( out + 3, _mm_unpackhi_epi16( high, zero ) );
+    }
+#else
+    for ( uint64_t block; length - i >= 8; i += 8 ) {
+        memcpy( &block, from + i, sizeof block );
+        if ( block & 0x8080808080808080 ) {
+            break;
+        }
+        for ( KoInt k = 0; k < 8; ++k ) {
+            to[i + k] = from[i + k];
+        }
+    }
+#endif
+    for ( ; i < length && from[i] < 0x80; ++i ) {
+        to[i] = from[i];
+    }
+    return i;
+}
+
+/** Narrows characters to bytes up to the first that is not ASCII, and returns how many. */
+inline KoInt NarrowAscii( uint8_t *to, const KoChar *from, KoInt length )
+{
+    KoInt i = 0;
+#if defined( __SSE2__ )
+    const __m128i beyond = _mm_set1_epi32( ~0x7F );
+    for ( ; length - i >= 16; i += 16 ) {
+        const auto *const in = reinterpret_cast<const __m128i *>( from + i );
+        const __m128i a = _mm_loadu_si128( in );
+        const __m128i b = _mm_loadu_si128( in + 1 );
+        const __m128i c = _mm_loadu_si128( in + 2 );
+        const __m128i d = _mm_loadu_si128( in + 3 );
+        const __m128i all = _mm_or_si128( _mm_or_si128( a, b ), _mm_or_si128( c, d ) );
+        if ( _mm_movemask_epi8( _mm_cmpeq_epi32( _mm_and_si128( all, beyond ), _mm_setzero_si128() ) ) != 0xFFFF ) {
+            break;
+        }
+        _mm_storeu_si128( reinterpret_cast<__m128i *>( to + i ),
+                          _mm_packus_epi16( _mm_packs_epi32( a, b ), _mm_packs_epi32( c, d ) ) );
+    }
+#endif
+    for ( ; i < length && static_cast<uint32_t>( from[i] ) < 0x80; ++i ) {
+        to[i] = static_cast<uint8_t>( from[i] );
+    }
+    return i;
+}
+
+/**
+ * Decodes the character at the start of bytes that are not empty: strictly, so without overlong forms, surrogates and
+ * values above U+10FFFF.
+ *
+ * @return The number of bytes of the character; or, negated, that of the bytes that a U+FFFD stands for (the maximal
+ * subpart of an ill-formed sequence, Unicode 15.0, 3.9), with `ch` left alone.
+ */
+inline KoInt DecodeUtf8( const uint8_t *bytes, KoInt length, KoChar *ch )
+{
+    const uint8_t first = bytes[0];
+    if ( first < 0x80 ) {
+        *ch = first;
+        return 1;
+    }
+    KoInt count = 0;
+    KoChar value = 0;
+    uint8_t least = 0x80; // of the second byte; those behind it have 0x80 to 0xBF
+    uint8_t most = 0xBF;
+    if ( first >= 0xC2 && first <= 0xDF ) {
+        count = 2;
+        value = first & 0x1F;
+    } else if ( first >= 0xE0 && first <= 0xEF ) {
+        count = 3;
+        value = first & 0x0F;
+        least = first == 0xE0 ? 0xA0 : least;
+        most = first == 0xED ? 0x9F : most;
+    } else if ( first >= 0xF0 && first <= 0xF4 ) {
+        count = 4;
+        value = first & 0x07;
+        least = first == 0xF0 ? 0x90 : least;
+        most = first == 0xF4 ? 0x8F : most;
+    } else {
+        return -1;
+    }
+    for ( KoInt i = 1; i < count; ++i ) {
+        if ( i >= length || bytes[i] < least || bytes[i] > most ) {
+            return -i;
+        }
+        value = value << 6 | ( bytes[i] & 0x3F );
+        least = 0x80;
+        most = 0xBF;
+    }
+    *ch = value;
+    return count;
+}
+
+/** Number of bytes that EncodeUtf8 writes for a character. */
+constexpr KoInt Utf8Length( KoChar ch )
+{
+    // The three bytes of U+FFFD also stand for what is beyond U+10FFFF, and negative: that is huge here.
+    const auto value = static_cast<uint32_t>( ch );
+    return 1 + ( value >= 0x80 ) + ( value >= 0x800 ) + ( value >= 0x10000 && value <= 0x10FFFF );
+}
+
+/** Writes a character, U+FFFD for what is no scalar value. Returns the number of bytes, 1 to 4. */
+inline KoInt EncodeUtf8( uint8_t *to, KoChar ch )
+{
+    const KoChar value = IsScalarValue( ch ) ? ch : replacementChar;
+    const auto trail = [value]( int shift ) { return static_cast<uint8_t>( 0x80 | ( value >> shift & 0x3F ) ); };
+    if ( value < 0x80 ) {
+        to[0] = static_cast<uint8_t>( value );
+        return 1;
+    }
+    if ( value < 0x800 ) {
+        to[0] = static_cast<uint8_t>( 0xC0 | value >> 6 );
+        to[1] = trail( 0 );
+        return 2;
+    }
+    if ( value < 0x10000 ) {
+        to[0] = static_cast<uint8_t>( 0xE0 | value >> 12 );
+        to[1] = trail( 6 );
+        to[2] = trail( 0 );
+        return 3;
+    }
+    to[0] = static_cast<uint8_t>( 0xF0 | value >> 18 );
+    to[1] = trail( 12 );
+    to[2] = trail( 6 );
+    to[3] = trail( 0 );
+    return 4;
+}
+
+} // namespace ko
+
+#endif
