@@ -27,27 +27,24 @@ enum CharClass : uint32_t {
     charHnvUnreserved = 1u << 10,
     charParamChar = 1u << 11,
     charSeparator = 1u << 12,
-    charPassword = 1u << 13, // & = + $ , : password without the unreserved
-    charPvalue = 1u << 14,   // [ ] / : & + $ : pvalue without the unreserved
-    charTextWord = 1u << 15, // 0x21 to 0x7E
+    charPasswordUnreserved = 1u << 13, // what a password may hold besides the unreserved
+    charParamUnreserved = 1u << 14,    // the same for the value of a URI parameter
+    charSessUuid = 1u << 15,
 };
 
 consteval std::array<uint32_t, 128> MakeCharTable()
 {
     std::array<uint32_t, 128> table{};
-    const auto add = [&]( uint32_t charClass, std::string_view members ) {
+    const auto add = [&]( uint32_t classes, std::string_view members ) {
         for ( const char ch : members ) {
-            table[static_cast<size_t>( ch )] |= charClass;
+            table[static_cast<size_t>( ch )] |= classes;
         }
     };
-    constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    constexpr std::string_view digits = "0123456789";
-    for ( const std::string_view alphanum : { letters, digits } ) {
-        add( charToken | charTokenNodot | charWord | charParamChar, alphanum );
-    }
-    add( charAlpha, letters );
-    add( charDigit | charHexdig, digits );
-    add( charHexdig, "ABCDEFabcdef" );
+    constexpr uint32_t allAlphanum = charToken | charTokenNodot | charWord | charParamChar;
+    add( allAlphanum | charAlpha, "ABCDEFGHIJKLMNOPQRSTUVWXYZ" );
+    add( allAlphanum | charAlpha | charSessUuid, "abcdefghijklmnopqrstuvwxyz" );
+    add( allAlphanum | charDigit | charSessUuid, "0123456789" );
+    add( charHexdig, "0123456789ABCDEFabcdef" );
     add( charLws, " \t" );
     add( charToken, "!%'*+-._`~" );
     add( charTokenNodot, "!%'*+-_`~" );
@@ -58,11 +55,8 @@ consteval std::array<uint32_t, 128> MakeCharTable()
     add( charHnvUnreserved, "$+/:?[]" );
     add( charParamChar, "!$%&'()*+-./:[]_~" );
     add( charSeparator, "\t \"(),/:;<=>?@[\\]{}" );
-    add( charPassword, "&=+$," );
-    add( charPvalue, "[]/:&+$" );
-    for ( char ch = 0x21; ch < 0x7F; ++ch ) {
-        table[static_cast<size_t>( ch )] |= charTextWord;
-    }
+    add( charPasswordUnreserved, "&=+$," );
+    add( charParamUnreserved, "[]/:&+$" );
     return table;
 }
 
@@ -72,6 +66,21 @@ inline constexpr std::array<uint32_t, 128> charTable = MakeCharTable();
 inline bool Is( KoChar ch, uint32_t classes )
 {
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & classes ) != 0;
+}
+
+/** A capital ASCII letter as a small one; every other character as it is. */
+inline KoChar AsciiLower( KoChar ch )
+{
+    return ch >= 'A' && ch <= 'Z' ? ch + ( 'a' - 'A' ) : ch;
+}
+
+/** The value of a hexadecimal digit; -1 for another character. */
+inline KoInt HexValue( KoChar ch )
+{
+    if ( !Is( ch, charHexdig ) ) {
+        return -1;
+    }
+    return ch <= '9' ? ch - '0' : AsciiLower( ch ) - 'a' + 10;
 }
 
 } // namespace tolmo

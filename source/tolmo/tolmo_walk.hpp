@@ -34,7 +34,9 @@ struct Text {
  *     Walk w( chs, length );
  *     return w.Taken( w.Need( skip::Token ) && w.Need( skip::Slash ) && w.Need( skip::Token ) );
  *
- * An element is a skip function: it gets the characters from the present place on, and says how many belong to it.
+ * An element is a skip function: it gets the characters from the present place on, and says how many belong to it. What is
+ * not there takes nothing, so that alternatives are `w.Need( A ) || w.Need( B )`, and an option that must be finished once
+ * it has begun is `( !w.Need( Colon ) || w.Need( Port ) )`.
  */
 class Walk {
 public:
