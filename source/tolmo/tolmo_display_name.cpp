@@ -2,7 +2,7 @@
 #include <tolmo/tolmo_display_name.h>
 
 #include <tolmo/tolmo_quotable_string.h>
-#include <tolmo/tolmo_scalar.hpp>
+#include <tolmo/tolmo_text.hpp>
 
 KoBool tolmoDisplayNameOk( KoString displayName )
 {
@@ -50,26 +50,6 @@ KoString tolmo___DisplayNameTryDecode( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    if ( const KoString quoted = tolmo___QuotableStringTryDecode( chs, length ) ) {
-        return quoted;
-    }
-    if ( length == 0 ) {
-        return koStringCreate();
-    }
-    KoRef<KoString> name = tolmo::Adopt( ko___StringCreateOfLength( length ) );
-    KoChar *const begin = ko::Chars( name.Get() );
-    KoChar *to = begin;
-    tolmo::Walk w( chs, length );
-    while ( w.Need( tolmo::skip::Token ) ) {
-        const tolmo::Text token = w.Last();
-        ko::CopyChars( to, token.chs, token.length );
-        to += token.length;
-        w.Maybe( tolmo::skip::Sws );
-        if ( w.AtEnd() ) {
-            name.Get()->length = to - begin;
-            return name.Leak();
-        }
-        *to++ = ' ';
-    }
-    return nullptr;
+    const KoString quoted = tolmo___QuotableStringTryDecode( chs, length );
+    return quoted ? quoted : tolmo::TryJoinWords( tolmo::Text( chs, length ), tolmo::skip::Token );
 }

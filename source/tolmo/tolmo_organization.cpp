@@ -6,13 +6,13 @@
 KoBool tolmoOrganizationOk( KoString organization )
 {
     KO_REQUIRE( organization );
-    return tolmo::IsPaddedText( organization, tolmo::skip::Organization );
+    return tolmo::IsFreeText( organization );
 }
 
 KoString tolmoOrganizationNormalize( KoString organization )
 {
     KO_REQUIRE( organization );
-    const KoString words = tolmo::TryNormalizeText( organization );
+    const KoString words = tolmo::TryNormalizeFreeText( organization );
     KO_REQUIRE_MESSAGE( words, "organization invalid", "tolmoOrganizationOk( organization )" );
     return words;
 }

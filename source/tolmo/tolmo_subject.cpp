@@ -6,13 +6,13 @@
 KoBool tolmoSubjectOk( KoString subject )
 {
     KO_REQUIRE( subject );
-    return tolmo::IsPaddedText( subject, tolmo::skip::Subject );
+    return tolmo::IsFreeText( subject );
 }
 
 KoString tolmoSubjectNormalize( KoString subject )
 {
     KO_REQUIRE( subject );
-    const KoString words = tolmo::TryNormalizeText( subject );
+    const KoString words = tolmo::TryNormalizeFreeText( subject );
     KO_REQUIRE_MESSAGE( words, "subject invalid", "tolmoSubjectOk( subject )" );
     return words;
 }

@@ -1,4 +1,4 @@
-/* Free text of Organization and Subject: words and whitespace (RFC 3261 section 25.1, TEXT-UTF8-TRIM). */
+/* Texts of words with whitespace between them, where any whitespace means one blank. */
 #ifndef TOLMO_TEXT_HPP
 #define TOLMO_TEXT_HPP
 
@@ -6,37 +6,42 @@
 
 namespace tolmo {
 
-/** True when a string is the element of a skip function, or nothing, with any whitespace around it. */
+/** A new string of the words of a text, with one blank between them; null when there is anything else. */
 template <class Skip>
-bool IsPaddedText( KoString s, Skip skip )
+KoString TryJoinWords( Text text, Skip word )
 {
-    Walk w{ Text( s ) };
-    return w.Maybe( skip::Sws ) && w.Maybe( skip ) && w.Maybe( skip::Sws ) && w.AtEnd();
+    KoRef<KoString> joined = Adopt( ko___StringCreateOfLength( text.length ) );
+    KoChar *const begin = ko::Chars( joined.Get() );
+    KoChar *to = begin;
+    Walk w( text );
+    while ( !w.AtEnd() ) {
+        if ( !w.Need( word ) ) {
+            return nullptr;
+        }
+        if ( to > begin ) {
+            *to++ = ' ';
+        }
+        ko::CopyChars( to, w.Last().chs, w.Last().length );
+        to += w.Last().length;
+        w.Maybe( skip::Sws );
+    }
+    joined.Get()->length = to - begin;
+    return joined.Leak();
 }
 
-/** A new string of the words, with one blank between them; null when there is a control character. */
-inline KoString TryNormalizeText( KoString s )
+/** True for the free text of Organization and Subject: nothing or words, with any whitespace around them. */
+inline bool IsFreeText( KoString s )
 {
-    const KoChar *const chs = ko::Chars( s );
-    KoRef<KoString> normal = Adopt( ko___StringCreateOfLength( s->length ) );
-    KoChar *const begin = ko::Chars( normal.Get() );
-    KoChar *to = begin;
-    bool blank = false; // stands between the last word and the next one
-    for ( KoInt i = 0; i < s->length; ++i ) {
-        if ( Is( chs[i], charLws ) ) {
-            blank = to > begin;
-        } else if ( chs[i] < 0x21 || chs[i] == 0x7F ) {
-            return nullptr;
-        } else {
-            if ( blank ) {
-                *to++ = ' ';
-                blank = false;
-            }
-            *to++ = chs[i];
-        }
-    }
-    normal.Get()->length = to - begin;
-    return normal.Leak();
+    Walk w{ Text( s ) };
+    return w.Maybe( skip::Sws ) && w.Maybe( skip::Subject ) && w.Maybe( skip::Sws ) && w.AtEnd();
+}
+
+/** The normal form of such a text; null when the string is none. */
+inline KoString TryNormalizeFreeText( KoString s )
+{
+    Walk w{ Text( s ) };
+    w.Maybe( skip::Sws );
+    return TryJoinWords( w.Rest(), skip::TextWord );
 }
 
 } // namespace tolmo
