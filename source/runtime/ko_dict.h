@@ -42,6 +42,16 @@ KO_API void koDictDelStringKey( KoDict *d, KoString key );
 KO_API void koDictClear( KoDict *d );
 /** @} */
 
+/**
+ * The keyed hash by which a dictionary finds keys. It differs from process to process, so that nobody can choose keys
+ * that collide; all 64 bits are good.
+ *
+ * @param chs The characters; may be null when `length` is 0.
+ * @pre chs || length == 0
+ * @pre length >= 0
+ */
+KO_API KoInt ko___CharsHash( const KoChar *chs, KoInt length );
+
 KO_END_DECLS
 
 #endif

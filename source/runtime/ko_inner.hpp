@@ -3,12 +3,16 @@
 #define KO_INNER_HPP
 
 #include <runtime/ko_buffer.h>
+#include <runtime/ko_module.h>
 #include <runtime/ko_ref.h>
 #include <runtime/ko_string.h>
 
 #include <cstring>
 
 namespace ko {
+
+/** The module that the sorts of the runtime belong to: see ko_module.cpp. Inside libko only. */
+extern struct ko___ModuleObject runtimeModule;
 
 /** The characters of a string that is not null. */
 inline KoChar *Chars( KoString s )
