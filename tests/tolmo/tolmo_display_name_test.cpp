@@ -50,11 +50,11 @@ TEST_F( DisplayName, NormalizeWhitespace )
                  { "\u00A0  \u00A0", "\u00A0 \u00A0" } }; // whitespace is blank and tab only
     for ( const auto &row : rows ) {
         auto name = Str( row.text );
-        const KoString before = name.Get();
+        const KoString given = name.Get();
         tolmoDisplayNameNormalizeWhitespace( name.Address() );
         EXPECT_EQ( Text( name ), row.normal ) << "text: " << row.text;
         if ( row.text == row.normal ) {
-            EXPECT_EQ( name.Get(), before ) << "text: " << row.text;
+            EXPECT_EQ( name.Get(), given ) << "text: " << row.text;
         }
     }
 }
