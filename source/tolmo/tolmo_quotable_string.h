@@ -16,7 +16,7 @@ KO_API KoBool tolmoQuotableStringOk( KoString quotableString );
 
 /**
  * The quoted string of a text. A backslash stands before each quote, backslash and control character, and before every
- * second blank of a run, so that nothing on the way can fold the run.
+ * second blank of a run.
  *
  * @param quotableString shared, the caller keeps its reference.
  * @return new reference.
