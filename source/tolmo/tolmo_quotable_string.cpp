@@ -5,10 +5,19 @@
 
 namespace {
 
-bool IsEscaped( KoChar ch )
-{
-    return ch == '"' || ch == '\\' || ch == 0x7F || ( ch >= 0 && ch < ' ' );
-}
+/** Tells of one character after the other whether a backslash has to stand before it. */
+class Escaping {
+public:
+    bool Escapes( KoChar ch )
+    {
+        const bool second = blank && ch == ' ';
+        blank = ch == ' ' && !second;
+        return second || ch < ' ' || ch == '"' || ch == '\\' || ch == 0x7F;
+    }
+
+private:
+    bool blank = false; // the character before is a blank without a backslash
+};
 
 } // namespace
 
@@ -30,22 +39,20 @@ KoString tolmo___QuotableStringEncode( KoString quotableString )
     const KoChar *const backing = ko::Chars( quotableString );
     const KoInt length = quotableString->length;
     KoInt escapes = 0;
-    bool blank = false; // the character before is a blank that went out plain
+    Escaping counting;
     for ( KoInt i = 0; i < length; ++i ) {
         KO_REQUIRE( backing[i] != KO_CHAR_CARRIAGE_RETURN && backing[i] != KO_CHAR_LINE_FEED );
-        escapes += IsEscaped( backing[i] ) || ( blank && backing[i] == ' ' );
-        blank = !blank && backing[i] == ' ';
+        escapes += counting.Escapes( backing[i] );
     }
     const KoString quoted = ko___StringCreateOfLength( length + escapes + 2 );
     KoChar *to = ko::Chars( quoted );
     *to++ = '"';
-    blank = false;
+    Escaping writing;
     for ( KoInt i = 0; i < length; ++i ) {
-        if ( IsEscaped( backing[i] ) || ( blank && backing[i] == ' ' ) ) {
+        if ( writing.Escapes( backing[i] ) ) {
             *to++ = '\\';
         }
         *to++ = backing[i];
-        blank = !blank && backing[i] == ' ';
     }
     *to = '"';
     return quoted;
