@@ -26,6 +26,16 @@ struct Text {
     {
         return KoRef<KoString>::Adopt( koStringCreateFromCharsCopy( chs, length ) );
     }
+
+    /** A copy in small letters, of ASCII text. */
+    [[nodiscard]] KoRef<KoString> CopyLowered() const
+    {
+        auto copy = KoRef<KoString>::Adopt( ko___StringCreateOfLength( length ) );
+        for ( KoInt i = 0; i < length; ++i ) {
+            ko::Chars( copy.Get() )[i] = AsciiLower( chs[i] );
+        }
+        return copy;
+    }
 };
 
 /**
