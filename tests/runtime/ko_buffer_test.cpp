@@ -129,17 +129,17 @@ TEST_F( BufferTest, Appending )
         { "outer of all", []( KoBuffer *b, KoBuffer o ) { koBufferAppendOuter( b, o, 0, 6 ); }, "" },
     };
     for ( const Row &row : rows ) {
-        for ( const char *before : { "", "12345" } ) {
-            auto b = Buf( before );
+        for ( const char *earlier : { "", "12345" } ) {
+            auto b = Buf( earlier );
             row.append( b.Address(), other.Get() );
-            EXPECT_EQ( Bytes( b.Get() ), std::string( before ) + row.expected ) << row.name;
+            EXPECT_EQ( Bytes( b.Get() ), std::string( earlier ) + row.expected ) << row.name;
             EXPECT_EQ( Bytes( other.Get() ), "abcdef" ) << row.name;
 
-            auto shared = Buf( before );
+            auto shared = Buf( earlier );
             const auto kept = Buffer::Share( shared.Get() );
             row.append( shared.Address(), other.Get() );
-            EXPECT_EQ( Bytes( shared.Get() ), std::string( before ) + row.expected ) << row.name << ", shared";
-            EXPECT_EQ( Bytes( kept.Get() ), before ) << row.name << ", shared";
+            EXPECT_EQ( Bytes( shared.Get() ), std::string( earlier ) + row.expected ) << row.name << ", shared";
+            EXPECT_EQ( Bytes( kept.Get() ), earlier ) << row.name << ", shared";
         }
     }
 }
@@ -220,11 +220,11 @@ TEST_F( BufferTest, AUniqueBufferStaysWhenItHasRoom )
 {
     auto b = Buf( std::string( 100, 'a' ) );
     koBufferAppendByte( b.Address(), 'b' );
-    const KoBuffer before = b.Get();
+    const KoBuffer earlier = b.Get();
     koBufferAppendByte( b.Address(), 'c' );
     koBufferDelLeading( b.Address(), 50 );
     koBufferDelOuter( b.Address(), 10, 20 );
-    EXPECT_EQ( b.Get(), before );
+    EXPECT_EQ( b.Get(), earlier );
 }
 
 TEST_F( BufferTest, RandomChangesAgreeWithAModel )

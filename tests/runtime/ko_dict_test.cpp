@@ -225,11 +225,11 @@ TEST_F( DictTest, AChangeOfASharedDictionaryCopies )
 TEST_F( DictTest, AChangeOfAUniqueDictionaryStays )
 {
     Dict d = Of( { { "a", "1" }, { "b", "2" } } );
-    const KoDict before = d.Get();
+    const KoDict earlier = d.Get();
     Set( d, "a", "3" );
     Set( d, "c", "4" );
     Del( d, "a" );
-    EXPECT_EQ( d.Get(), before );
+    EXPECT_EQ( d.Get(), earlier );
     EXPECT_EQ( All( d ), ( Pairs{ { "b", "2" }, { "c", "4" } } ) );
 }
 
@@ -386,7 +386,7 @@ TEST_F( DictTest, OrderIsTotal )
     std::vector<std::vector<std::pair<std::string, std::string>>> sorted;
     for ( int i = 0; i < 60; ++i ) {
         Pairs pairs;
-        for ( unsigned n = random() % 24; n > 0; --n ) {
+        for ( auto n = random() % 24; n > 0; --n ) {
             pairs.emplace_back( std::string( 1, static_cast<char>( 'a' + random() % 26 ) ),
                                 std::string( 1, static_cast<char>( '0' + random() % 2 ) ) );
         }

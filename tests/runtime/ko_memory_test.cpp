@@ -131,21 +131,21 @@ TEST_F( MemoryTest, AnotherThreadFreesABlock )
 
 TEST_F( MemoryTest, CountsOutliveTheirThreads )
 {
-    const int64_t before = ko::ObjectCount();
+    const int64_t earlier = ko::ObjectCount();
     ko::CountObject( 1 );
-    EXPECT_EQ( ko::ObjectCount(), before + 1 );
+    EXPECT_EQ( ko::ObjectCount(), earlier + 1 );
     std::thread( [] { ko::CountObject( 1 ); } ).join();
-    EXPECT_EQ( ko::ObjectCount(), before + 2 );
+    EXPECT_EQ( ko::ObjectCount(), earlier + 2 );
     std::thread( [] {
         ko::CountObject( -1 );
         ko::CountObject( -1 );
     } ).join();
-    EXPECT_EQ( ko::ObjectCount(), before );
+    EXPECT_EQ( ko::ObjectCount(), earlier );
 }
 
 TEST_F( MemoryTest, ManyThreadsComeAndGo )
 {
-    const int64_t before = ko::ObjectCount();
+    const int64_t earlier = ko::ObjectCount();
     std::atomic<int64_t> left = 0;
     for ( int round = 0; round < 50; ++round ) {
         std::vector<std::thread> threads;
@@ -164,27 +164,27 @@ TEST_F( MemoryTest, ManyThreadsComeAndGo )
         for ( std::thread &thread : threads ) {
             thread.join();
         }
-        EXPECT_EQ( ko::ObjectCount(), before + left );
+        EXPECT_EQ( ko::ObjectCount(), earlier + left );
     }
     ko::CountObject( static_cast<int32_t>( -left ) );
-    EXPECT_EQ( ko::ObjectCount(), before );
+    EXPECT_EQ( ko::ObjectCount(), earlier );
 }
 
 // The counts of the library itself, which are others than those of this test's own unit.
 TEST_F( MemoryTest, ObjectsOfAllThreadsAreCounted )
 {
-    const KoInt before = ko___ObjLiveCount();
+    const KoInt earlier = ko___ObjLiveCount();
     KoString kept = nullptr;
     std::thread( [&] {
         kept = koStringCreateFromCstr( "kept", -1 );
         koStringRelease( koStringCreateFromCstr( "not kept", -1 ) );
     } ).join();
-    EXPECT_EQ( ko___ObjLiveCount(), before + 1 );
+    EXPECT_EQ( ko___ObjLiveCount(), earlier + 1 );
     koStringRelease( kept );
-    EXPECT_EQ( ko___ObjLiveCount(), before );
+    EXPECT_EQ( ko___ObjLiveCount(), earlier );
     const KoString constant = koStringCreateFromCstr( "constant", -1 );
     ko___ObjMakeConstant( koStringObj( constant ) );
-    EXPECT_EQ( ko___ObjLiveCount(), before ) << "a constant does not count";
+    EXPECT_EQ( ko___ObjLiveCount(), earlier ) << "a constant does not count";
     koStringRelease( constant );
     EXPECT_EQ( koStringLength( constant ), 8 ) << "and does not end";
 }

@@ -117,11 +117,11 @@ TEST_F( StoreTest, AChangeOfASharedStoreCopies )
 {
     const auto expectCopy = []( const Store &kept, auto change ) {
         Store store = Store::Share( kept.Get() );
-        const KoInt before = koStoreLength( kept.Get() );
+        const KoInt earlier = koStoreLength( kept.Get() );
         change( store );
         EXPECT_NE( store.Get(), kept.Get() );
-        EXPECT_EQ( koStoreLength( kept.Get() ), before );
-        EXPECT_EQ( koStoreLength( store.Get() ), before + 1 );
+        EXPECT_EQ( koStoreLength( kept.Get() ), earlier );
+        EXPECT_EQ( koStoreLength( store.Get() ), earlier + 1 );
         EXPECT_EQ( test::Count( kept.Get() ), 1 );
         const KoStore unique = store.Get();
         change( store );

@@ -175,7 +175,7 @@ TEST_F( TimeTest, EveryDayOfTheCalendar )
 
 TEST_F( TimeTest, NowIsNow )
 {
-    const time_t before = ::time( nullptr );
+    const time_t earlier = ::time( nullptr );
     const auto now = Time::Adopt( koTimeNow() );
     const time_t after = ::time( nullptr );
     ASSERT_TRUE( koTimeValid( now.Get() ) );
@@ -187,7 +187,7 @@ TEST_F( TimeTest, NowIsNow )
     fields.tm_min = static_cast<int>( koTimeMinute( now.Get() ) );
     fields.tm_sec = static_cast<int>( koTimeSecond( now.Get() ) );
     const time_t seconds = timegm( &fields );
-    EXPECT_GE( seconds, before - 1 ) << "the two clocks may differ by a tick";
+    EXPECT_GE( seconds, earlier - 1 ) << "the two clocks may differ by a tick";
     EXPECT_LE( seconds, after + 1 );
     EXPECT_EQ( koTimeWeekday( now.Get() ), ( fields.tm_wday + 6 ) % 7 );
 }

@@ -194,11 +194,11 @@ TEST_F( VectorTest, AChangeOfASharedVectorCopies )
 TEST_F( VectorTest, AChangeOfAUniqueVectorStays )
 {
     Vector v = Of( { "a", "b", "c" } );
-    const KoVector before = v.Get();
+    const KoVector earlier = v.Get();
     koVectorSetStringAt( v.Address(), 1, Str( "x" ).Get() );
     koVectorDelAt( v.Address(), 2 );
     koVectorInsertString( v.Address(), 1, Str( "y" ).Get() );
-    EXPECT_EQ( v.Get(), before );
+    EXPECT_EQ( v.Get(), earlier );
     const KoVector shared = koVectorRetain( v.Get() );
     koVectorDelLeading( v.Address(), 0 );
     EXPECT_EQ( v.Get(), shared ) << "nothing to remove, nothing to copy";
