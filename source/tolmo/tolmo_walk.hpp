@@ -53,9 +53,12 @@ public:
     Walk( const KoChar *chs, KoInt length ) : text( chs, length ) {}
     explicit Walk( Text whole ) : text( whole ) {}
 
-    /** Takes an element that has to be there. `arguments` go to the skip function behind the text. */
+    /**
+     * Takes an element that has to be there. `arguments` go to the skip function behind the text. Always inline, because
+     * only there the skip function is known, and inline as well.
+     */
     template <class Skip, class... Arguments>
-    bool Need( Skip skip, Arguments... arguments )
+    [[gnu::always_inline]] bool Need( Skip skip, Arguments... arguments )
     {
         const KoInt taken = skip( text.chs + at, text.length - at, arguments... );
         begin = at;
