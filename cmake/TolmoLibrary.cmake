@@ -45,7 +45,10 @@ function( tolmo_library name folder )
     set( map ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/lib${name}.map )
     if( BUILD_SHARED_LIBS )
         target_link_options( ${name} PRIVATE
-            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--no-undefined -Wl,--as-needed )
+            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed )
+        if( NOT TOLMO_SANITIZE ) # clang leaves the sanitizer to the program
+            target_link_options( ${name} PRIVATE -Wl,--no-undefined )
+        endif()
         set_target_properties( ${name} PROPERTIES LINK_DEPENDS ${map} )
     endif()
     install( TARGETS ${name} EXPORT tolmo-targets
