@@ -80,13 +80,13 @@ public:
         return at - start;
     }
 
+    [[nodiscard]] bool At( char wanted ) const { return at < end && *at == static_cast<Unit>( wanted ); }
+
     bool Take( char wanted )
     {
-        if ( at == end || *at != static_cast<Unit>( wanted ) ) {
-            return false;
-        }
-        ++at;
-        return true;
+        const bool here = At( wanted );
+        at += here;
+        return here;
     }
 
     bool TakeInt( IntDirective *directive )
@@ -136,19 +136,23 @@ void Format( const Unit *format, KoInt length, va_list arguments, Sink *sink )
         }
         const Unit *const percent = directives.Place();
         directives.Take( '%' );
-        IntDirective directive;
         if ( directives.Take( '%' ) ) {
             sink->Text( percent, 1 );
-        } else if ( directives.TakeInt( &directive ) ) {
-            sink->Int( IntText( va_arg( arguments, KoInt ), directive.base, directive.width, directive.flags ) );
-        } else {
-            const bool taken = directives.Take( '~' );
+            continue;
+        }
+        const bool taken = directives.Take( '~' );
+        if ( taken || directives.At( 's' ) ) {
             const bool known = directives.Take( 's' );
             KO_REQUIRE_AS( known, "directive" );
             const KoString string = va_arg( arguments, KoString );
             KO_REQUIRE( string );
             sink->String( string, taken );
+            continue;
         }
+        IntDirective directive;
+        const bool known = directives.TakeInt( &directive );
+        KO_REQUIRE_AS( known, "directive" );
+        sink->Int( IntText( va_arg( arguments, KoInt ), directive.base, directive.width, directive.flags ) );
     }
 }
 

@@ -8,10 +8,16 @@
 
 KoObj ko___ObjCreate( KoInt size, KoSort sort )
 {
+    const KoObj obj = ko___ObjCreateUncleared( size, sort );
+    memset( static_cast<void *>( obj + 1 ), 0, static_cast<size_t>( size ) - sizeof *obj );
+    return obj;
+}
+
+KoObj ko___ObjCreateUncleared( KoInt size, KoSort sort )
+{
     KO_REQUIRE( size >= (KoInt)sizeof( struct ko___Obj ) );
     KO_REQUIRE( sort );
     const ko::Block block = ko::Allocate( static_cast<size_t>( size ) );
-    memset( block.memory, 0, static_cast<size_t>( size ) );
     const auto obj = static_cast<KoObj>( block.memory );
     obj->sort = sort;
     obj->count = 1;

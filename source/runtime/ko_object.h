@@ -63,6 +63,9 @@ typedef const struct ko___Sort *KoSort;
  */
 KO_API KoObj ko___ObjCreate( KoInt size, KoSort sort );
 
+/** ko___ObjCreate without the zeros, for code that sets every field at once. */
+KO_API KoObj ko___ObjCreateUncleared( KoInt size, KoSort sort );
+
 /** Ends an object whose count has fallen to 0: calls the free function of its sort, then gives the memory back. */
 KO_API void ko___ObjFree( KoObj obj );
 

@@ -1,7 +1,7 @@
 /* Strings: sequences of code points, immutable unless unique. */
 #include <runtime/ko_string.h>
 
-#include <runtime/ko_memory.hpp>
+#include <runtime/ko_create.hpp>
 #include <runtime/ko_string.hpp>
 #include <runtime/ko_vector.h>
 
@@ -27,7 +27,7 @@ KoString ToString( KoObj obj )
     return koStringRetain( koStringFrom( obj ) );
 }
 
-const ko___Sort sort = KO_SORT( nullptr, "KO_STRING", nullptr, Compare, ToString );
+const ko___Sort sort = KO_SORT( &ko::runtimeModule, "KO_STRING", nullptr, Compare, ToString );
 
 // The string of all empty strings. It is never written to: a constant is neither counted nor unique.
 const ko___String emptyString = { { &sort, KO_COUNT_CONSTANT, 0 }, 0, 0 };
@@ -52,14 +52,11 @@ constexpr KoInt leastGrownCapacity = ( 128 - static_cast<KoInt>( sizeof( ko___St
 KoString CreateWithCapacity( KoInt capacity )
 {
     KO_REQUIRE_MESSAGE( capacity <= maximalLength, "out of memory", "block" );
-    const ko::Block block = ko::Allocate( sizeof( ko___String ) + static_cast<size_t>( capacity * charSize ) );
-    const auto s = static_cast<KoString>( block.memory );
-    s->head.sort = &sort;
-    s->head.count = 1;
-    s->head.blockClass = block.blockClass;
+    size_t usable = 0;
+    const size_t size = sizeof( ko___String ) + static_cast<size_t>( capacity * charSize );
+    const auto s = reinterpret_cast<KoString>( ko::CreateObject( size, &sort, usable ) );
     s->length = 0;
-    s->capacity = static_cast<KoInt>( ( block.size - sizeof( ko___String ) ) / charSize );
-    ko::CountObject( 1 );
+    s->capacity = static_cast<KoInt>( ( usable - sizeof( ko___String ) ) / charSize );
     return s;
 }
 

@@ -131,6 +131,14 @@ KO_API KoString koStringCreateFromLeading( KoString s, KoInt length );
  */
 KO_API KoString ko___StringCreateOfLength( KoInt length );
 
+/**
+ * The constant string with a text: made at the first call for the text, the same handle at every later one. It is kept for
+ * the rest of the process and never counted, so that threads can share it for nothing. Thread-safe.
+ *
+ * @param literal UTF-8 text with a terminating zero.
+ * @pre literal
+ */
+KO_API KoString koStringConstant( const char *literal );
 /** @} */
 
 /** @name Formatted creation

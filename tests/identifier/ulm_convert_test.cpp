@@ -230,7 +230,7 @@ TEST_F( UlmConvert, RefusesWhatIsNoIdentifier )
 
 TEST_F( UlmConvert, NothingToConvertIsTheSameString )
 {
-    for ( const char *const text : { "sip:alice@example.com", "sip:a@XN--A", "tel:+1" } ) {
+    for ( const char *const text : { "sip:alice@example.com", "sip:a@XN--A", "tel:+1", "sip:%23%7F@a" } ) {
         const auto s = Str( text );
         const auto iri = KoRef<KoString>::Adopt( ulmTryConvertFromUri( s.Get() ) );
         const auto uri = KoRef<KoString>::Adopt( ulmTryConvertToUri( s.Get() ) );
@@ -367,7 +367,7 @@ TEST_F( UlmConvert, Laws )
 
 TEST_F( UlmConvert, HugeTexts )
 {
-    constexpr int many = 200'000;
+    constexpr int many = 50'000;
     for ( const char *const piece : { "a", "%C3%BC", "%C3", "%E2%80%8E", "\u00FC", "\u200E", "@", ":", "xn--bcher-kva.",
                                       "\u00FC.", "\u00AD", "\u0301", "%CC%81", "[", "#" } ) {
         for ( const char *const begin : { "sip:", "sip:a@", "x:" } ) {

@@ -1,0 +1,179 @@
+/* From fragments to bytes (RFC 3261 section 7). */
+#include <tolmo/tolmo_message_fragment.hpp>
+
+#include <tolmo/tolmo_cstr.hpp>
+#include <tolmo/tolmo_reason_phrase.h>
+#include <tolmo/tolmo_wide.hpp>
+
+#include <identifier/ulm.h>
+
+namespace tolmo {
+namespace {
+
+/** Counts the bytes that are written to it. */
+class Counter {
+public:
+    void Write( const void *, KoInt length ) { count += length; }
+    void Write( KoString s ) { count += ko::Utf8Length( ko::Chars( s ), s->length ); }
+    [[nodiscard]] KoInt Count() const { return count; }
+
+private:
+    KoInt count = 0;
+};
+
+/** Writes to room that is known to suffice. */
+class Writer {
+public:
+    explicit Writer( uint8_t *room ) : to( room ) {}
+    void Write( const void *bytes, KoInt length )
+    {
+        memcpy( to, bytes, static_cast<size_t>( length ) );
+        to += length;
+    }
+    void Write( KoString s )
+    {
+        const KoInt ascii = ko::NarrowAscii( to, ko::Chars( s ), s->length );
+        to += ascii;
+        for ( KoInt i = ascii; i < s->length; ++i ) {
+            to += ko::EncodeUtf8( to, ko::Chars( s )[i] );
+        }
+    }
+
+private:
+    uint8_t *to;
+};
+
+/** What the pieces of an encoded fragment are made of, made once and written twice: to be counted, and to be kept. */
+class Pieces {
+public:
+    explicit Pieces( TolmoMessageFragment encoded ) : frag( encoded )
+    {
+        if ( tolmoMessageFragmentIsRequest( frag ) ) {
+            uri = Adopt( ulmTryConvertToUri( frag->requestIri ) );
+            KO_REQUIRE_AS( uri, "uri" ); // an IRI that a fragment holds has a URI form
+        } else if ( tolmoMessageFragmentIsResponse( frag ) ) {
+            code = Adopt( koFormatEncodeInt( frag->responseStatusCode, 10, 3, 2 ) );
+            phrase = Adopt( tolmo___ReasonPhraseEncode( frag->responseReasonPhrase ) );
+        }
+        if ( frag->version ) {
+            version = Adopt( tolmo___VersionEncode( frag->version ) );
+        }
+        if ( frag->body && frag->body->length > 0 ) {
+            bodyLength = Adopt( koFormatEncodeInt( frag->body->length, 10, 0, 0 ) );
+        }
+    }
+
+    template <class Output>
+    void WriteTo( Output &output ) const
+    {
+        WriteStartLine( output );
+        bool lengthWritten = false;
+        HeaderTable *const table = frag->headers;
+        for ( KoInt i = 0; i < table->count; ++i ) {
+            const HeaderEntry &entry = table->Entries()[i];
+            if ( entry.known == contentLengthName ) {
+                WriteContentLength( output );
+                lengthWritten = true;
+            } else if ( entry.header ) {
+                WriteHeader( output, entry.header );
+            } else {
+                WriteRawHeader( output, table->decoded, entry );
+            }
+        }
+        if ( !lengthWritten ) {
+            WriteContentLength( output );
+        }
+        output.Write( "\r\n", 2 );
+        if ( frag->body ) {
+            output.Write( ko::Bytes( frag->body ), frag->body->length );
+        }
+    }
+
+private:
+    template <class Output>
+    void WriteStartLine( Output &output ) const
+    {
+        if ( uri ) {
+            output.Write( frag->requestMethod );
+            output.Write( " ", 1 );
+            output.Write( uri.Get() );
+            output.Write( " ", 1 );
+            output.Write( version.Get() );
+            output.Write( "\r\n", 2 );
+        } else if ( phrase ) {
+            output.Write( version.Get() );
+            output.Write( " ", 1 );
+            output.Write( code.Get() );
+            output.Write( " ", 1 );
+            output.Write( phrase.Get() );
+            output.Write( "\r\n", 2 );
+        }
+    }
+
+    // The stored lines do not count: what is sent has the length that it has.
+    template <class Output>
+    void WriteContentLength( Output &output ) const
+    {
+        output.Write( "Content-Length: ", 16 );
+        if ( bodyLength ) {
+            output.Write( bodyLength.Get() );
+        } else {
+            output.Write( "0", 1 );
+        }
+        output.Write( "\r\n", 2 );
+    }
+
+    template <class Output>
+    static void WriteHeader( Output &output, TolmoMessageHeader header )
+    {
+        const KoInt length = koVectorLength( header->lines );
+        for ( KoInt i = 0; i < length; ++i ) {
+            output.Write( header->name );
+            output.Write( ": ", 2 );
+            output.Write( StringAt( header->lines, i ).Get() );
+            output.Write( "\r\n", 2 );
+        }
+    }
+
+    template <class Output>
+    static void WriteRawHeader( Output &output, DecodedHead *decoded, const HeaderEntry &entry )
+    {
+        const bool known = entry.known != unknownName;
+        const void *const name =
+            known ? static_cast<const void *>( knownNames[entry.known].data() ) : decoded->Text() + entry.nameOffset;
+        const auto nameLength =
+            static_cast<KoInt>( known ? knownNames[entry.known].size() : static_cast<size_t>( entry.nameLength ) );
+        for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
+            const RawLine &line = decoded->Lines()[i];
+            output.Write( name, nameLength );
+            output.Write( ": ", 2 );
+            output.Write( decoded->Text() + line.offset, line.length );
+            output.Write( "\r\n", 2 );
+            if ( i == entry.lastLine ) {
+                break;
+            }
+        }
+    }
+
+    TolmoMessageFragment frag;
+    KoRef<KoString> uri;  // of a request
+    KoRef<KoString> code; // of a response
+    KoRef<KoString> phrase;
+    KoRef<KoString> version;
+    KoRef<KoString> bodyLength; // where it is not 0
+};
+
+} // namespace
+} // namespace tolmo
+
+KoBuffer tolmoMessageFragmentEncode( TolmoMessageFragment frag )
+{
+    KO_REQUIRE( frag );
+    const tolmo::Pieces pieces( frag );
+    tolmo::Counter counter;
+    pieces.WriteTo( counter );
+    auto encoded = tolmo::Adopt( ko___BufferCreateOfLength( counter.Count() ) );
+    tolmo::Writer writer( ko::Bytes( encoded.Get() ) );
+    pieces.WriteTo( writer );
+    return encoded.Leak();
+}
