@@ -16,7 +16,6 @@ constexpr KoInt indexedFrom = 24;
 // What RecognizeName may read behind a name.
 constexpr KoInt padding = 8;
 
-
 constexpr ko___Sort decodedHeadSort = TOLMO_SORT( "TOLMO_DECODED_HEAD", nullptr, nullptr, nullptr );
 
 void FreeTable( KoObj obj )
@@ -112,7 +111,7 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
 {
     HeaderTable *const copy = CreateHeaderTable( capacity, Share( table->decoded ) ).Leak();
     copy->count = table->count;
-    copy->index = table->index.Copy();
+    copy->index = table->index ? table->index.Moved( capacity, 0 ) : ko::Index();
     memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
             static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
     for ( KoInt i = 0; i < table->count; ++i ) {
@@ -131,7 +130,8 @@ HeaderTable *CopyTable( HeaderTable *table )
 KoRef<DecodedHead *> CreateDecodedHead( KoInt lines, KoInt bytes )
 {
     const auto size = static_cast<KoInt>( sizeof( DecodedHead ) + static_cast<size_t>( lines ) * sizeof( RawLine ) );
-    auto *const decoded = reinterpret_cast<DecodedHead *>( ko___ObjCreateUncleared( size + bytes + padding, &decodedHeadSort ) );
+    auto *const decoded =
+        reinterpret_cast<DecodedHead *>( ko___ObjCreateUncleared( size + bytes + padding, &decodedHeadSort ) );
     decoded->capacity = lines;
     memset( decoded->Text() + bytes, 0, padding );
     return Adopt( decoded );
@@ -139,7 +139,8 @@ KoRef<DecodedHead *> CreateDecodedHead( KoInt lines, KoInt bytes )
 
 KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> decoded )
 {
-    const auto size = static_cast<KoInt>( sizeof( HeaderTable ) + static_cast<size_t>( capacity ) * sizeof( HeaderEntry ) );
+    const auto size =
+        static_cast<KoInt>( sizeof( HeaderTable ) + static_cast<size_t>( capacity ) * sizeof( HeaderEntry ) );
     auto *const table = reinterpret_cast<HeaderTable *>( ko___ObjCreateUncleared( size, &headerTableSort ) );
     table->decoded = decoded.Leak();
     table->count = 0;
@@ -155,8 +156,8 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
         // The entries and the index move; the old table has nothing left to free.
         HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
         std::swap( grown->decoded, own->decoded );
-        std::swap( grown->index, own->index );
         std::swap( grown->count, own->count );
+        grown->index = own->index ? own->index.Moved( grown->capacity, 0 ) : ko::Index();
         memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
                 static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
         ko___Release( &own->head );
@@ -165,10 +166,9 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
     HeaderEntry *const appended = own->Entries() + own->count++;
     *appended = entry;
     if ( own->index ) {
-        own->index.Reserve( own->count );
         own->index.Add( HashOf( own, entry ), own->count - 1 );
     } else if ( own->count > indexedFrom ) {
-        own->index.Reserve( own->count );
+        own->index = ko::Index::Create( own->capacity );
         for ( KoInt i = 0; i < own->count; ++i ) {
             own->index.Add( HashOf( own, own->Entries()[i] ), i );
         }
@@ -244,7 +244,8 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
         ko___Release( tolmoMessageHeaderObj( entry->header ) );
     }
     --own->count;
-    memmove( static_cast<void *>( entry ), entry + 1, static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+    memmove( static_cast<void *>( entry ), entry + 1,
+             static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
 }
 
 } // namespace tolmo

@@ -82,6 +82,17 @@ inline bool StoreText( KoString &field, Text value )
     return true;
 }
 
+/** Keeps a decoded value in a field, if it is not the null by which decoders refuse. */
+template <class Handle>
+bool StoreGood( Handle &field, KoRef<Handle> value )
+{
+    if ( !value ) {
+        return false;
+    }
+    Store( field, std::move( value ) );
+    return true;
+}
+
 /** Keeps a number in a field, if it is none of those below 0 by which decoders refuse. */
 inline bool StoreNumber( KoInt &field, KoInt value )
 {
@@ -97,6 +108,22 @@ inline bool StoreNumber( KoInt &field, KoInt value )
  * writes itself. The list stays as it is.
  */
 void AddParams( Builder &text, TolmoGenericParams params, std::initializer_list<std::string_view> hidden );
+
+/** Adds `;name=`. */
+inline void AddParamName( Builder &text, KoString name )
+{
+    text.Add( ';' );
+    text.Add( name );
+    text.Add( '=' );
+}
+
+/** Adds `;name=` by a literal. */
+inline void AddParamName( Builder &text, std::string_view name )
+{
+    text.Add( ';' );
+    text.Add( name );
+    text.Add( '=' );
+}
 
 /** A name to hide while its field is present: `Hidden( via->ttl != -1, "ttl" )`. */
 inline std::string_view Hidden( bool present, std::string_view name )

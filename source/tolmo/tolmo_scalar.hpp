@@ -30,6 +30,15 @@ inline KoString Raised( KoString s )
     return raised.Leak();
 }
 
+/** The number that digits tell; -1 when a text is no number, or one below 0 or above the largest one. */
+inline KoInt TryDecodeNumber( const KoChar *chs, KoInt length, KoInt largest )
+{
+    KoInt value = 0;
+    KoInt consumed = 0;
+    const bool whole = koFormatTryDecodeIntChars( chs, length, 10, &value, &consumed ) && consumed == length;
+    return whole && value >= 0 && value <= largest ? value : -1;
+}
+
 } // namespace tolmo
 
 #endif
