@@ -10,11 +10,14 @@ set( CMAKE_C_VISIBILITY_PRESET hidden )
 set( CMAKE_CXX_VISIBILITY_PRESET hidden )
 set( CMAKE_VISIBILITY_INLINES_HIDDEN ON )
 
+file( RELATIVE_PATH source_from_build ${CMAKE_BINARY_DIR} ${PROJECT_SOURCE_DIR} )
 add_library( tolmo_options INTERFACE )
 target_compile_options( tolmo_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
-    # Abort lines name files as they stand in the repository, wherever it was built.
+    # Abort lines name files as they stand in the repository, wherever it was built (a compiler cache may make the path
+    # relative to the build).
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=
+    -fmacro-prefix-map=${source_from_build}=
 )
 if( TOLMO_SANITIZE )
     target_compile_options( tolmo_options INTERFACE

@@ -7,39 +7,110 @@
 KO_BEGIN_DECLS
 
 /**
- * The IRI form of a URI. Escapes that form a character of ucschar become that character (ASCII, bidi controls and
- * separators stay escaped); the host of a sip or sips URI comes in its Unicode form.
+ * How many characters at the start of a text form a resource identifier (RFC 3987, section 2.2, without the structure
+ * of single schemes), the longest prefix:
+ *
+ *     iri    = scheme ":" *ichar [ "#" *ichar ]
+ *     scheme = ALPHA *( ALPHA / DIGIT / "+" / "-" / "." )
+ *     ichar  = ALPHA / DIGIT / any of - . _ ~ ! $ & ' ( ) * + , ; = : @ / ? [ ]
+ *            / "%" HEXDIG HEXDIG / ucschar / iprivate
+ *
+ * Square brackets stand anywhere, since to RFC 3986 `sip:bob@[2001:db8::1]` is a path, which has none. iprivate stands
+ * behind the first `?` only. Nothing but the scheme and the colon has to be there. A second `#`, or a `%` without two
+ * hexadecimal digits, ends the identifier.
+ *
+ * @param chs The characters; may be null when there are none.
+ * @param length How many may be read.
+ * @return The number of characters; 0 without scheme and colon.
+ * @pre length >= 0
+ * @pre chs || length == 0
+ */
+KO_API KoInt ulm___SkipIri( const KoChar *chs, KoInt length );
+
+/**
+ * How many characters at the start of a text form an IPv4 address: see wen___SkipIpV4Address.
+ *
+ * @param chs The characters; may be null when there are none.
+ * @param length How many may be read.
+ * @return The number of characters; 0 when there is no address.
+ * @pre length >= 0
+ * @pre chs || length == 0
+ */
+KO_API KoInt ulm___SkipIpV4Address( const KoChar *chs, KoInt length );
+
+/**
+ * How many characters at the start of a text form an IPv6 address, without brackets: see wen___SkipIpV6Address.
+ *
+ * @param chs The characters; may be null when there are none.
+ * @param length How many may be read.
+ * @return The number of characters; 0 when there is no address.
+ * @pre length >= 0
+ * @pre chs || length == 0
+ */
+KO_API KoInt ulm___SkipIpV6Address( const KoChar *chs, KoInt length );
+
+/**
+ * How many characters at the start of a text form a port: the whole run of digits.
+ *
+ * @param chs The characters; may be null when there are none.
+ * @param length How many may be read.
+ * @return The number of characters; 0 without digits, and when their value does not fit a KoInt.
+ * @pre length >= 0
+ * @pre chs || length == 0
+ */
+KO_API KoInt ulm___SkipPort( const KoChar *chs, KoInt length );
+
+/**
+ * True when a string is a resource identifier: ulm___SkipIri takes it whole, and it is not empty.
+ *
+ * @param part 0, the whole identifier; nothing else is known.
+ * @param iri shared, the caller keeps its reference.
+ * @pre part == 0
+ * @pre iri
+ */
+KO_API KoBool ulmGensValidatePart( KoInt part, KoString iri );
+
+/**
+ * The IRI form of a URI (RFC 3987, section 3.2). Escapes that are the UTF-8 form of a ucschar become that character,
+ * except U+00A0, U+1680, U+2000 to U+200F, U+2028 to U+202F, U+205F, U+2066 to U+2069, U+3000 and U+FEFF, which a
+ * reader would not see; those, and iprivate, are escaped where they stand as they are. No ASCII character is escaped or
+ * unescaped, and escapes that stay keep their case.
+ *
+ * In a `sip` or `sips` identifier (in any case) the host is what stands behind the first `@`, or else behind the colon,
+ * up to `:`, `;`, `?`, `#`, `/` or the end. It comes in its Unicode form if IDNA has one for it, see
+ * wenDnsIdnaDomainNameToUnicode. Where a second `@` makes the host doubtful, it is text like the rest.
  *
  * @param uri shared, the caller keeps its reference.
- * @return new reference; null when the text is no resource identifier. A result passes ulmGensValidatePart( 0, result ).
+ * @return new reference: the same string when there is nothing to convert; null when ulm___SkipIri does not take the
+ * text whole. A result passes ulmGensValidatePart.
  * @pre uri
  */
 KO_API KoString ulmTryConvertFromUri( KoString uri );
 
 /**
- * The URI form of an IRI: ASCII only. The non-ASCII host of a sip or sips IRI goes out in its A-label form.
+ * ulmTryConvertFromUri on an array, for callers that have no string of the text: the result is the only one made.
  *
- * @return new reference; null only for a text that ulmGensValidatePart( 0, iri ) refuses.
+ * @param chs The characters; may be null when there are none.
+ * @param length How many.
+ * @return new reference; null when the text is no resource identifier.
+ * @pre length >= 0
+ * @pre chs || length == 0
+ */
+KO_API KoString ulm___TryConvertFromUriChars( const KoChar *chs, KoInt length );
+
+/**
+ * The URI form of an IRI (RFC 3987, section 3.1), which is ASCII only: other characters become the escapes of their
+ * UTF-8 form, with capital digits. But the host of a `sip` or `sips` identifier, if it is not ASCII and IDNA takes it,
+ * becomes its ASCII form, see wenDnsIdnaDomainNameToAscii.
+ *
+ * @param iri shared, the caller keeps its reference.
+ * @return new reference: the same string when it is ASCII; null only for what ulmGensValidatePart refuses. For every
+ * result of ulmTryConvertFromUri, that function gives it back from here.
  * @pre iri
  */
 KO_API KoString ulmTryConvertToUri( KoString iri );
 
-/** True when a string is a whole IRI. @param part 0: the whole identifier; nothing else is known. @pre part == 0 @pre iri */
-KO_API KoBool ulmGensValidatePart( KoInt part, KoString iri );
-
-/** @name Skip functions
- * How many characters at the start of an array form the element; 0 if none. They never read behind `length`.
- * @pre length >= 0
- * @pre chs || length == 0 @{ */
-/** scheme ":" *ichar [ "#" *ichar ], the longest prefix; generic, blind to the scheme. */
-KO_API KoInt ulm___SkipIri( const KoChar *chs, KoInt length );
-KO_API KoInt ulm___SkipIpV4Address( const KoChar *chs, KoInt length );
-KO_API KoInt ulm___SkipIpV6Address( const KoChar *chs, KoInt length );
-/** The whole run of digits if its value fits a KoInt, else 0. */
-KO_API KoInt ulm___SkipPort( const KoChar *chs, KoInt length );
-/** @} */
-
-/** The module of the library. It needs wen and ko. */
+/** The module of the library. It needs wen and ko. @return The module, which is a constant. */
 KO_API KoModule ulmModule( void );
 
 KO_END_DECLS

@@ -39,6 +39,12 @@ void Copy( uint8_t *to, const uint8_t *from, KoInt length )
     }
 }
 
+/** The number of bytes: the length that was given, or for -1 that up to a zero byte. */
+KoInt BytesLength( const void *bytes, KoInt length )
+{
+    return length < 0 ? static_cast<KoInt>( strlen( static_cast<const char *>( bytes ) ) ) : length;
+}
+
 /** A new buffer with a copy of bytes and room for `capacity` bytes or some more. */
 KoBuffer CreateWithBytes( const uint8_t *bytes, KoInt length, KoInt capacity )
 {
@@ -118,8 +124,8 @@ KoBuffer koBufferCreate( void )
 KoBuffer koBufferCreateFromBytesCopy( const void *bytes, KoInt length )
 {
     KO_REQUIRE( bytes || length == 0 );
-    KO_REQUIRE( length >= 0 );
-    return CreateFromBytes( static_cast<const uint8_t *>( bytes ), length );
+    KO_REQUIRE( length >= -1 );
+    return CreateFromBytes( static_cast<const uint8_t *>( bytes ), BytesLength( bytes, length ) );
 }
 
 KoInt koBufferLength( KoBuffer b )
@@ -170,8 +176,8 @@ void koBufferAppendBytes( KoBuffer *b, const void *bytes, KoInt length )
 {
     KO_REQUIRE_HANDLE( b );
     KO_REQUIRE( bytes || length == 0 );
-    KO_REQUIRE( length >= 0 );
-    Append( b, static_cast<const uint8_t *>( bytes ), length );
+    KO_REQUIRE( length >= -1 );
+    Append( b, static_cast<const uint8_t *>( bytes ), BytesLength( bytes, length ) );
 }
 
 void koBufferAppendLeading( KoBuffer *b, KoBuffer other, KoInt length )

@@ -44,17 +44,39 @@ struct ko___ModuleObject {
     }
 
 /**
- * Starts a module, after the modules that it needs. Counted: each further start needs one more stop. Thread-safe.
+ * Starts a module, after the modules that it needs, in the order of its list. Counted: each further start needs one
+ * more stop. Thread-safe: when it returns, the module runs.
  *
+ * @param module The module. What it needs has been registered: its accessor sees to that.
+ * @return KO_FALSE when the module, or one that it needs, could not start; then nothing is left started by this call.
  * @pre module
- * @return KO_TRUE when the module runs.
+ * @pre needed (a module of that name is registered)
  */
 KO_API KoBool koModuleStart( KoModule module );
 
-/** Undoes one koModuleStart. The last one stops the module, then what it needed. @pre module @pre it was started */
+/**
+ * Undoes one start. The last one stops the module, then the modules that it needs, in reverse order.
+ *
+ * @param module The module.
+ * @pre module
+ * @pre module->runtime[Starts] > 0 (it was started)
+ */
 KO_API void koModuleStop( KoModule module );
 
-/** Makes a module known by its name, so that others can need it. A module's own accessor calls this. */
+/**
+ * Makes a module known by its name, so that others can need it; once is enough. A module's accessor calls this for the
+ * modules that it needs and for itself:
+ *
+ *     KoModule wenModule( void )
+ *     {
+ *         koModule();
+ *         ko___ModuleRegister( &module );
+ *         return &module;
+ *     }
+ *
+ * @param module The module, for the rest of the process: its library must not be unloaded.
+ * @pre module
+ */
 KO_API void ko___ModuleRegister( KoModule module );
 
 /** The module of the runtime itself. */

@@ -19,11 +19,12 @@ public:
     KoRef( KoRef &&other ) noexcept : handle( other.handle ) { other.handle = nullptr; }
     KoRef &operator=( KoRef &&other ) noexcept
     {
-        const Handle old = handle;
-        handle = other.handle;
-        other.handle = nullptr;
-        if ( old && old != handle ) {
-            ko___Release( reinterpret_cast<KoObj>( old ) );
+        if ( this != &other ) {
+            const Handle old = handle;
+            handle = other.Leak();
+            if ( old ) {
+                ko___Release( reinterpret_cast<KoObj>( old ) );
+            }
         }
         return *this;
     }

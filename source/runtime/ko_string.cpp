@@ -1,9 +1,8 @@
 /* Strings: sequences of code points, immutable unless unique. */
 #include <runtime/ko_string.h>
 
-#include <runtime/ko_memory.hpp>
+#include <runtime/ko_create.hpp>
 #include <runtime/ko_string.hpp>
-#include <runtime/ko_utf8.hpp>
 #include <runtime/ko_vector.h>
 
 namespace {
@@ -28,7 +27,7 @@ KoString ToString( KoObj obj )
     return koStringRetain( koStringFrom( obj ) );
 }
 
-const ko___Sort sort = KO_SORT( nullptr, "KO_STRING", nullptr, Compare, ToString );
+const ko___Sort sort = KO_SORT( &ko::runtimeModule, "KO_STRING", nullptr, Compare, ToString );
 
 // The string of all empty strings. It is never written to: a constant is neither counted nor unique.
 const ko___String emptyString = { { &sort, KO_COUNT_CONSTANT, 0 }, 0, 0 };
@@ -53,14 +52,11 @@ constexpr KoInt leastGrownCapacity = ( 128 - static_cast<KoInt>( sizeof( ko___St
 KoString CreateWithCapacity( KoInt capacity )
 {
     KO_REQUIRE_MESSAGE( capacity <= maximalLength, "out of memory", "block" );
-    const ko::Block block = ko::Allocate( sizeof( ko___String ) + static_cast<size_t>( capacity * charSize ) );
-    const auto s = static_cast<KoString>( block.memory );
-    s->head.sort = &sort;
-    s->head.count = 1;
-    s->head.blockClass = block.blockClass;
+    size_t usable = 0;
+    const size_t size = sizeof( ko___String ) + static_cast<size_t>( capacity * charSize );
+    const auto s = reinterpret_cast<KoString>( ko::CreateObject( size, &sort, usable ) );
     s->length = 0;
-    s->capacity = static_cast<KoInt>( ( block.size - sizeof( ko___String ) ) / charSize );
-    ko::CountObject( 1 );
+    s->capacity = static_cast<KoInt>( ( usable - sizeof( ko___String ) ) / charSize );
     return s;
 }
 
@@ -81,62 +77,17 @@ KoString Inner( KoString s, KoInt offset, KoInt length )
     return length == s->length ? koStringRetain( s ) : Copy( ko::Chars( s ) + offset, length );
 }
 
-// UTF-8 and UTF-16 texts of callers: the number of their characters, and the characters. What is ill-formed becomes
-// U+FFFD, one for each maximal subpart.
-
-/** Takes one character off a text that is not empty; returns the number of units. */
-KoInt DecodeStep( const char *chs, KoInt length, KoChar *ch )
-{
-    const KoInt taken = ko::DecodeUtf8( reinterpret_cast<const uint8_t *>( chs ), length, ch );
-    if ( taken < 0 ) {
-        *ch = ko::replacementChar;
-        return -taken;
-    }
-    return taken;
-}
-
-KoInt DecodeStep( const uint16_t *units, KoInt length, KoChar *ch )
-{
-    const KoChar first = units[0];
-    if ( ( first & 0xF800 ) != 0xD800 ) {
-        *ch = first;
-        return 1;
-    }
-    if ( first < 0xDC00 && length > 1 && ( units[1] & 0xFC00 ) == 0xDC00 ) {
-        *ch = 0x10000 + ( ( first & 0x3FF ) << 10 | ( units[1] & 0x3FF ) );
-        return 2;
-    }
-    *ch = ko::replacementChar;
-    return 1;
-}
-
-template <class Unit>
-KoInt DecodedLength( const Unit *units, KoInt length )
-{
-    KoInt count = 0;
-    KoChar ch = 0;
-    for ( KoInt i = 0; i < length; ++count ) {
-        i += DecodeStep( units + i, length - i, &ch );
-    }
-    return count;
-}
-
-template <class Unit>
-void Decode( KoChar *to, const Unit *units, KoInt length )
-{
-    for ( KoInt i = 0; i < length; ++to ) {
-        i += DecodeStep( units + i, length - i, to );
-    }
-}
-
+/** A new string with the characters of a text of a caller. */
 template <class Unit>
 KoString CreateDecoded( const Unit *units, KoInt length )
 {
     if ( length == 0 ) {
         return Empty();
     }
-    const KoString s = ko::CreateUninitialised( DecodedLength( units, length ) );
-    Decode( ko::Chars( s ), units, length );
+    // As many characters as units, unless the text is far from ASCII.
+    KoString s = ko::CreateUninitialised( length );
+    KoChar *const chs = ko::Chars( s );
+    ko::Trim( &s, ko::Decode( chs, units, length ) - chs );
     return s;
 }
 
@@ -252,6 +203,17 @@ KoString CreateUninitialised( KoInt length )
     return s;
 }
 
+void Trim( KoString *s, KoInt length )
+{
+    const KoString whole = *s;
+    const KoInt cut = whole->length - length;
+    whole->length = length;
+    if ( cut > whole->capacity / 4 ) {
+        *s = Copy( Chars( whole ), length );
+        koStringRelease( whole );
+    }
+}
+
 KoChar *MakeUnique( KoString *s )
 {
     if ( !IsUnique( *s ) ) {
@@ -262,7 +224,7 @@ KoChar *MakeUnique( KoString *s )
     return Chars( *s );
 }
 
-KoChar *Extend( KoString *s, KoInt more, KoRef<KoString> *before )
+KoChar *Reserve( KoString *s, KoInt more, KoRef<KoString> *before )
 {
     const KoString old = *s;
     const KoInt length = old->length;
@@ -270,11 +232,9 @@ KoChar *Extend( KoString *s, KoInt more, KoRef<KoString> *before )
         KO_REQUIRE_MESSAGE( more <= maximalLength - length, "out of memory", "block" );
         const KoInt grown = koIntMax( length + length / 2, leastGrownCapacity );
         *s = CreateWithCapacity( koIntMax( length + more, grown ) );
+        ( *s )->length = length;
         CopyChars( Chars( *s ), Chars( old ), length );
         *before = KoRef<KoString>::Adopt( old );
-    }
-    if ( more > 0 ) {
-        ( *s )->length = length + more;
     }
     return Chars( *s ) + length;
 }
@@ -307,14 +267,7 @@ KoString koStringCreateFromCstr( const char *chs, KoInt length )
 {
     KO_REQUIRE( chs || length == 0 );
     KO_REQUIRE( length >= -1 );
-    const KoInt count = length < 0 ? static_cast<KoInt>( strlen( chs ) ) : length;
-    const auto *const bytes = reinterpret_cast<const uint8_t *>( chs );
-    if ( count == 0 || ko::AsciiLength( bytes, count ) < count ) {
-        return CreateDecoded( chs, count );
-    }
-    const KoString s = ko::CreateUninitialised( count );
-    ko::WidenAscii( ko::Chars( s ), bytes, count );
-    return s;
+    return CreateDecoded( chs, ko::TextLength( chs, length ) );
 }
 
 KoString koStringCreateFromWcstr( const uint16_t *chs, KoInt length )
@@ -448,7 +401,7 @@ void koStringAppendCstr( KoString *s, const char *chs, KoInt length )
     KO_REQUIRE( length >= -1 );
     const KoInt count = ko::TextLength( chs, length );
     KoRef<KoString> before;
-    Decode( ko::Extend( s, DecodedLength( chs, count ), &before ), chs, count );
+    ko::Decode( ko::Extend( s, ko::DecodedLength( chs, count ), &before ), chs, count );
 }
 
 void koStringDelimitedAppendCharDelimiter( KoString *s, KoString other, KoChar delimiter )

@@ -3,6 +3,7 @@
 #define KO_STRING_HPP
 
 #include <runtime/ko_inner.hpp>
+#include <runtime/ko_utf8.hpp>
 
 #include <bit>
 
@@ -15,17 +16,30 @@ namespace ko {
 /** A new unique string of the length whose characters are not set. */
 KoString CreateUninitialised( KoInt length );
 
+/** Cuts a unique string off, and gives memory back when that leaves much of its block unused. */
+void Trim( KoString *s, KoInt length );
+
 /** Copies the string unless it is unique, and returns its characters, which may be changed. */
 KoChar *MakeUnique( KoString *s );
 
 /**
- * Makes a string unique and `more` characters longer; those are not set.
+ * Makes a string unique, with room for `more` characters behind those that it has. Does nothing when `more` is 0.
  *
  * @param before Receives the string that the handle had if it was replaced, so that characters which lie inside it can
  * be copied before it ends.
- * @return Where the new characters begin.
+ * @return Where the new characters go; the caller adds their number to the length.
  */
-KoChar *Extend( KoString *s, KoInt more, KoRef<KoString> *before );
+KoChar *Reserve( KoString *s, KoInt more, KoRef<KoString> *before );
+
+/** Reserve, with the new characters counted in at once. */
+inline KoChar *Extend( KoString *s, KoInt more, KoRef<KoString> *before )
+{
+    KoChar *const to = Reserve( s, more, before );
+    if ( more > 0 ) { // without new characters the string may still be shared
+        ( *s )->length += more;
+    }
+    return to;
+}
 
 /** The length of a text: the length that was given, or for -1 that up to its terminating zero. */
 template <class Unit>
@@ -37,6 +51,77 @@ KoInt TextLength( const Unit *units, KoInt length )
         }
     }
     return length;
+}
+
+// The texts of callers: UTF-8, UTF-16 or characters. What is ill-formed becomes U+FFFD: one for each maximal subpart of
+// UTF-8, one for each lone surrogate of UTF-16.
+
+/** Takes one character off a text that is not empty, and returns its number of units. */
+inline KoInt DecodeStep( const char *chs, KoInt length, KoChar *ch )
+{
+    const KoInt taken = DecodeUtf8( reinterpret_cast<const uint8_t *>( chs ), length, ch );
+    if ( taken < 0 ) {
+        *ch = replacementChar;
+        return -taken;
+    }
+    return taken;
+}
+
+inline KoInt DecodeStep( const uint16_t *units, KoInt length, KoChar *ch )
+{
+    const KoChar first = units[0];
+    if ( ( first & 0xF800 ) != 0xD800 ) {
+        *ch = first;
+        return 1;
+    }
+    if ( first < 0xDC00 && length > 1 && ( units[1] & 0xFC00 ) == 0xDC00 ) {
+        *ch = 0x10000 + ( ( first & 0x3FF ) << 10 | ( units[1] & 0x3FF ) );
+        return 2;
+    }
+    *ch = replacementChar;
+    return 1;
+}
+
+/** The number of characters of a text. */
+template <class Unit>
+KoInt DecodedLength( const Unit *units, KoInt length )
+{
+    KoInt i = 0;
+    if constexpr ( sizeof( Unit ) == 1 ) {
+        i = AsciiLength( reinterpret_cast<const uint8_t *>( units ), length );
+    }
+    KoChar ch = 0;
+    KoInt count = i;
+    for ( ; i < length; ++count ) {
+        i += DecodeStep( units + i, length - i, &ch );
+    }
+    return count;
+}
+
+inline KoInt DecodedLength( const KoChar *, KoInt length )
+{
+    return length;
+}
+
+/** Writes the characters of a text, and returns where they end. */
+template <class Unit>
+KoChar *Decode( KoChar *to, const Unit *units, KoInt length )
+{
+    KoInt i = 0;
+    if constexpr ( sizeof( Unit ) == 1 ) {
+        i = WidenAscii( to, reinterpret_cast<const uint8_t *>( units ), length );
+        to += i;
+    }
+    for ( ; i < length; ++to ) {
+        i += DecodeStep( units + i, length - i, to );
+    }
+    return to;
+}
+
+inline KoChar *Decode( KoChar *to, const KoChar *chs, KoInt length )
+{
+    CopyChars( to, chs, length );
+    return to + length;
 }
 
 /** Index of the first such character from `start` on, or -1. */

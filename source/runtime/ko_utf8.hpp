@@ -163,6 +163,30 @@ constexpr KoInt Utf8Length( KoChar ch )
     return 1 + ( value >= 0x80 ) + ( value >= 0x800 ) + ( value >= 0x10000 && value <= 0x10FFFF );
 }
 
+/** Number of bytes of the UTF-8 form of characters. */
+inline KoInt Utf8Length( const KoChar *chs, KoInt length )
+{
+    KoInt need = 0;
+    KoInt i = 0;
+    for ( ; length - i >= 16; i += 16 ) {
+        uint32_t any = 0;
+        for ( KoInt k = 0; k < 16; ++k ) {
+            any |= static_cast<uint32_t>( chs[i + k] );
+        }
+        if ( any < 0x80 ) {
+            need += 16;
+            continue;
+        }
+        for ( KoInt k = 0; k < 16; ++k ) {
+            need += Utf8Length( chs[i + k] );
+        }
+    }
+    for ( ; i < length; ++i ) {
+        need += Utf8Length( chs[i] );
+    }
+    return need;
+}
+
 /** Writes a character, U+FFFD for what is no scalar value. Returns the number of bytes, 1 to 4. */
 inline KoInt EncodeUtf8( uint8_t *to, KoChar ch )
 {

@@ -241,8 +241,8 @@ void koVectorDelAt( KoVector *v, KoInt index )
 void koVectorDelLeading( KoVector *v, KoInt count )
 {
     KO_REQUIRE_HANDLE( v );
-    KO_REQUIRE( count >= 0 && count <= koVectorLength( *v ) );
-    Remove( v, 0, count );
+    KO_REQUIRE( count >= -1 && count <= koVectorLength( *v ) );
+    Remove( v, 0, count < 0 ? koVectorLength( *v ) : count );
 }
 
 void koVectorClear( KoVector *v )

@@ -16,7 +16,6 @@ constexpr KoInt indexedFrom = 24;
 // What RecognizeName may read behind a name.
 constexpr KoInt padding = 8;
 
-
 constexpr ko___Sort decodedHeadSort = TOLMO_SORT( "TOLMO_DECODED_HEAD", nullptr, nullptr, nullptr );
 
 void FreeTable( KoObj obj )
@@ -131,7 +130,8 @@ HeaderTable *CopyTable( HeaderTable *table )
 KoRef<DecodedHead *> CreateDecodedHead( KoInt lines, KoInt bytes )
 {
     const auto size = static_cast<KoInt>( sizeof( DecodedHead ) + static_cast<size_t>( lines ) * sizeof( RawLine ) );
-    auto *const decoded = reinterpret_cast<DecodedHead *>( ko___ObjCreateUncleared( size + bytes + padding, &decodedHeadSort ) );
+    auto *const decoded =
+        reinterpret_cast<DecodedHead *>( ko___ObjCreateUncleared( size + bytes + padding, &decodedHeadSort ) );
     decoded->capacity = lines;
     memset( decoded->Text() + bytes, 0, padding );
     return Adopt( decoded );
@@ -139,7 +139,8 @@ KoRef<DecodedHead *> CreateDecodedHead( KoInt lines, KoInt bytes )
 
 KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> decoded )
 {
-    const auto size = static_cast<KoInt>( sizeof( HeaderTable ) + static_cast<size_t>( capacity ) * sizeof( HeaderEntry ) );
+    const auto size =
+        static_cast<KoInt>( sizeof( HeaderTable ) + static_cast<size_t>( capacity ) * sizeof( HeaderEntry ) );
     auto *const table = reinterpret_cast<HeaderTable *>( ko___ObjCreateUncleared( size, &headerTableSort ) );
     table->decoded = decoded.Leak();
     table->count = 0;
@@ -244,7 +245,8 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
         ko___Release( tolmoMessageHeaderObj( entry->header ) );
     }
     --own->count;
-    memmove( static_cast<void *>( entry ), entry + 1, static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+    memmove( static_cast<void *>( entry ), entry + 1,
+             static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
 }
 
 } // namespace tolmo

@@ -19,7 +19,7 @@ namespace tolmo {
 struct RawLine {
     KoInt offset; // into the text
     KoInt length; // in bytes
-    KoInt next; // the next line of the same name; 0 behind the last, as no line follows itself
+    KoInt next;   // the next line of the same name; 0 behind the last, as no line follows itself
 };
 
 /** A head as it was received, but for folds and the spelling of names. It does not change once it is decoded. */
@@ -50,7 +50,10 @@ struct HeaderKey {
     Text name; // where the name is not known
 
     HeaderKey( NameId id ) : known( id ) {}
-    explicit HeaderKey( KoString normal ) : known( RecognizeName( ko::Chars( normal ), normal->length ) ), name( normal ) {}
+    explicit HeaderKey( KoString normal )
+        : known( RecognizeName( ko::Chars( normal ), normal->length ) ), name( normal )
+    {
+    }
 };
 
 struct HeaderTable {

@@ -217,71 +217,64 @@ inline KoInt QuotedPair( const KoChar *chs, KoInt length )
     return length >= 2 && chs[0] == '\\' && chs[1] != KO_CHAR_CARRIAGE_RETURN && chs[1] != KO_CHAR_LINE_FEED ? 2 : 0;
 }
 
-// quoted-string = LDQUOT *( quoted-pair / any character but DQUOTE, "\", CR and LF ) DQUOTE
-inline KoInt QuotedString( const KoChar *chs, KoInt length )
+// qdtext = 1*( any character but DQUOTE, "\", CR and LF )
+inline KoInt QuotedText( const KoChar *chs, KoInt length )
 {
-    KoInt taken = Ldquot( chs, length );
-    if ( taken == 0 ) {
-        return 0;
+    KoInt taken = 0;
+    while ( taken < length && chs[taken] != '"' && chs[taken] != '\\' && chs[taken] != KO_CHAR_CARRIAGE_RETURN &&
+            chs[taken] != KO_CHAR_LINE_FEED ) {
+        ++taken;
     }
-    while ( taken < length ) {
-        KoInt step = 1;
-        switch ( chs[taken] ) {
-        case '"':
-            return taken + 1;
-        case '\\':
-            step = QuotedPair( chs + taken, length - taken );
-            break;
-        case KO_CHAR_CARRIAGE_RETURN:
-        case KO_CHAR_LINE_FEED:
-            step = 0;
-            break;
-        default:
-            break;
-        }
-        if ( step == 0 ) {
-            return 0;
-        }
-        taken += step;
-    }
-    return 0;
+    return taken;
 }
 
-/** True for what is neither a control nor a blank: 0x21 and above but 0x7F, non-ASCII included. */
+// quoted-string = LDQUOT *( qdtext / quoted-pair ) DQUOTE
+inline KoInt QuotedString( const KoChar *chs, KoInt length )
+{
+    Walk w( chs, length );
+    if ( !w.Need( Ldquot ) ) {
+        return 0;
+    }
+    while ( w.Need( QuotedText ) || w.Need( QuotedPair ) ) {
+    }
+    return w.Taken( w.Need( Char, '"' ) );
+}
+
+/** True for 0x21 and above but 0x7F: neither a control nor a blank, and non-ASCII included. */
 inline bool IsText( KoChar ch )
 {
     return ch > 0x20 && ch != 0x7F;
 }
 
-// comment = LPAREN *( SP / HTAB / text but "(", ")" and "\" / quoted-pair / comment ) RPAREN
+// ctext = 1*( text but "(", ")" and "\" / SP / HTAB )
+inline KoInt CommentText( const KoChar *chs, KoInt length )
+{
+    KoInt taken = 0;
+    while ( taken < length && chs[taken] != '(' && chs[taken] != ')' && chs[taken] != '\\' &&
+            ( IsText( chs[taken] ) || Is( chs[taken], charLws ) ) ) {
+        ++taken;
+    }
+    return taken;
+}
+
+// comment = LPAREN *( ctext / quoted-pair / comment ) RPAREN
 // The nesting is counted, so that its depth costs nothing.
 inline KoInt Comment( const KoChar *chs, KoInt length )
 {
-    KoInt taken = Lparen( chs, length );
-    KoInt depth = 1;
-    while ( taken > 0 && taken < length ) {
-        const KoChar ch = chs[taken];
-        KoInt step = 0;
-        if ( ch == '(' ) {
-            step = Lparen( chs + taken, length - taken );
+    Walk w( chs, length );
+    if ( !w.Need( Lparen ) ) {
+        return 0;
+    }
+    for ( KoInt depth = 1; depth > 0; ) {
+        if ( w.Need( Lparen ) ) {
             ++depth;
-        } else if ( ch == ')' ) {
-            step = Rparen( chs + taken, length - taken );
+        } else if ( w.Need( Rparen ) ) {
             --depth;
-        } else if ( ch == '\\' ) {
-            step = QuotedPair( chs + taken, length - taken );
-        } else if ( IsText( ch ) || Is( ch, charLws ) ) {
-            step = 1;
-        }
-        if ( step == 0 ) {
+        } else if ( !w.Need( CommentText ) && !w.Need( QuotedPair ) ) {
             return 0;
         }
-        taken += step;
-        if ( depth == 0 ) {
-            return taken;
-        }
     }
-    return 0;
+    return w.Taken();
 }
 
 /* Addresses and identifiers. */
@@ -638,12 +631,8 @@ inline KoInt SemiViaParams( const KoChar *chs, KoInt length )
 inline KoInt Via( const KoChar *chs, KoInt length )
 {
     Walk w( chs, length );
-    return w.Taken( w.Need( Version ) &&                      //
-                    w.Need( Slash ) &&                        //
-                    w.Need( Transport ) &&                    //
-                    w.Need( Lws ) &&                          //
-                    w.Need( Host ) &&                         //
-                    ( !w.Need( Colon ) || w.Need( Port ) ) && //
+    return w.Taken( w.Need( Version ) && w.Need( Slash ) && w.Need( Transport ) && w.Need( Lws ) && // sent-protocol
+                    w.Need( Host ) && ( !w.Need( Colon ) || w.Need( Port ) ) &&                     // sent-by
                     w.Many( SemiViaParams ) );
 }
 

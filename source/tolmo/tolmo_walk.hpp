@@ -26,6 +26,16 @@ struct Text {
     {
         return KoRef<KoString>::Adopt( koStringCreateFromCharsCopy( chs, length ) );
     }
+
+    /** A copy in small letters, of ASCII text. */
+    [[nodiscard]] KoRef<KoString> CopyLowered() const
+    {
+        auto copy = KoRef<KoString>::Adopt( ko___StringCreateOfLength( length ) );
+        for ( KoInt i = 0; i < length; ++i ) {
+            ko::Chars( copy.Get() )[i] = AsciiLower( chs[i] );
+        }
+        return copy;
+    }
 };
 
 /**
@@ -43,9 +53,12 @@ public:
     Walk( const KoChar *chs, KoInt length ) : text( chs, length ) {}
     explicit Walk( Text whole ) : text( whole ) {}
 
-    /** Takes an element that has to be there. `arguments` go to the skip function behind the text. */
+    /**
+     * Takes an element that has to be there. `arguments` go to the skip function behind the text. Always inline, because
+     * only there the skip function is known, and inline as well.
+     */
     template <class Skip, class... Arguments>
-    bool Need( Skip skip, Arguments... arguments )
+    [[gnu::always_inline]] bool Need( Skip skip, Arguments... arguments )
     {
         const KoInt taken = skip( text.chs + at, text.length - at, arguments... );
         begin = at;

@@ -1,0 +1,65 @@
+/* A text under construction: what encoders write to. */
+#ifndef TOLMO_BUILDER_HPP
+#define TOLMO_BUILDER_HPP
+
+#include <tolmo/tolmo_walk.hpp>
+
+#include <string_view>
+
+namespace tolmo {
+
+/** Collects characters, at first in place, and makes one string of them at the end. */
+class Builder {
+public:
+    Builder() = default;
+    Builder( const Builder & ) = delete;
+    Builder &operator=( const Builder & ) = delete;
+    ~Builder() { koMemFree( block ); }
+
+    void Add( KoChar ch ) { *Room( 1 ) = ch; }
+    /** ASCII text. */
+    void Add( std::string_view ascii )
+    {
+        KoChar *to = Room( static_cast<KoInt>( ascii.size() ) );
+        for ( const char ch : ascii ) {
+            *to++ = ch;
+        }
+    }
+    void Add( Text text ) { ko::CopyChars( Room( text.length ), text.chs, text.length ); }
+    void Add( KoString s ) { Add( Text( s ) ); }
+    /** A fresh string: `text.Take( tolmo___HostEncode( host ) )`. */
+    void Take( KoString s ) { Add( KoRef<KoString>::Adopt( s ).Get() ); }
+
+    /** A new string of what has been added. */
+    [[nodiscard]] KoString Finish() const { return koStringCreateFromCharsCopy( chs, length ); }
+
+private:
+    /** Room for more characters, which count as added. */
+    KoChar *Room( KoInt more )
+    {
+        if ( capacity - length < more ) {
+            Grow( more );
+        }
+        length += more;
+        return chs + length - more;
+    }
+
+    [[gnu::noinline]] void Grow( KoInt more )
+    {
+        capacity = 2 * capacity + more;
+        auto *const grown = static_cast<KoChar *>( koMemAllocN( capacity, sizeof( KoChar ) ) );
+        ko::CopyChars( grown, chs, length );
+        koMemFree( block );
+        chs = block = grown;
+    }
+
+    KoChar here[256];
+    KoChar *block = nullptr;
+    KoChar *chs = here;
+    KoInt length = 0;
+    KoInt capacity = std::size( here );
+};
+
+} // namespace tolmo
+
+#endif

@@ -1,0 +1,192 @@
+/* Blocks for objects. No library exports them, so the unit itself is part of this test. */
+#include "test.h"
+
+#include <runtime/ko_memory.cpp>
+
+#include <atomic>
+#include <cstring>
+#include <random>
+#include <set>
+#include <thread>
+
+namespace {
+
+class MemoryTest : public test::Fixture {};
+
+TEST_F( MemoryTest, EverySizeGetsABlockOfItsSize )
+{
+    for ( size_t size = 1; size <= 70000; ++size ) {
+        const ko::Block block = ko::Allocate( size );
+        ASSERT_NE( block.memory, nullptr );
+        ASSERT_GE( block.size, size );
+        ASSERT_LE( block.size, size <= 1024 ? size + 15 : size + size / 4 ) << "next to nothing is wasted";
+        ASSERT_EQ( reinterpret_cast<uintptr_t>( block.memory ) % 16, 0U ) << size;
+        memset( block.memory, 0xa5, block.size );
+        ko::Free( block.memory, block.blockClass );
+    }
+}
+
+TEST_F( MemoryTest, ClassesHoldTheirSizes )
+{
+    for ( int32_t i = 0; i < ko::classes; ++i ) {
+        EXPECT_EQ( ko::ClassOf( ko::SizeOf( i ) ), i );
+        if ( i > 0 ) {
+            EXPECT_EQ( ko::ClassOf( ko::SizeOf( i - 1 ) + 1 ), i );
+        }
+    }
+}
+
+TEST_F( MemoryTest, LivingBlocksDoNotOverlap )
+{
+    std::mt19937 random( 7 );
+    struct Living {
+        ko::Block block;
+        unsigned char mark;
+    };
+    std::vector<Living> living;
+    const auto end = [&]( size_t at ) {
+        const Living ended = living[at];
+        const auto *const bytes = static_cast<const unsigned char *>( ended.block.memory );
+        for ( size_t i = 0; i < ended.block.size; ++i ) {
+            ASSERT_EQ( bytes[i], ended.mark );
+        }
+        ko::Free( ended.block.memory, ended.block.blockClass );
+        living[at] = living.back();
+        living.pop_back();
+    };
+    for ( int step = 0; step < 20000; ++step ) {
+        if ( living.size() < 200 && random() % 2 ) {
+            const size_t size = 1 + random() % ( random() % 4 ? 300 : 70000 );
+            const Living made{ ko::Allocate( size ), static_cast<unsigned char>( random() ) };
+            memset( made.block.memory, made.mark, made.block.size );
+            living.push_back( made );
+        } else if ( !living.empty() ) {
+            end( random() % living.size() );
+        }
+    }
+    while ( !living.empty() ) {
+        end( living.size() - 1 );
+    }
+}
+
+TEST_F( MemoryTest, ABlockComesBackAtOnce )
+{
+    if ( !ko::keepsBlocks ) {
+        GTEST_SKIP() << "a sanitizer wants to see each block end";
+    }
+    const ko::Block first = ko::Allocate( 100 );
+    ko::Free( first.memory, first.blockClass );
+    const ko::Block second = ko::Allocate( 105 );
+    EXPECT_EQ( second.memory, first.memory );
+    ko::Free( second.memory, second.blockClass );
+}
+
+TEST_F( MemoryTest, AThreadKeepsNoMoreThanItsLimit )
+{
+    if ( !ko::keepsBlocks ) {
+        GTEST_SKIP() << "a sanitizer wants to see each block end";
+    }
+    std::thread( [] {
+        for ( const size_t size : { size_t{ 16 }, size_t{ 1024 }, size_t{ 40000 } } ) {
+            std::vector<ko::Block> blocks;
+            for ( int i = 0; i < 5000; ++i ) {
+                blocks.push_back( ko::Allocate( size ) );
+            }
+            for ( const ko::Block &block : blocks ) {
+                ko::Free( block.memory, block.blockClass );
+            }
+            const ko::FreeList &list = ko::here->lists[ko::ClassOf( size )];
+            EXPECT_EQ( list.length, list.limit );
+            EXPECT_EQ( list.limit, std::max<size_t>( 32768 / ko::SizeOf( ko::ClassOf( size ) ), 4 ) );
+            uint32_t length = 0;
+            for ( const ko::FreeBlock *block = list.first; block; block = block->next ) {
+                ++length;
+            }
+            EXPECT_EQ( length, list.length );
+        }
+    } ).join();
+}
+
+TEST_F( MemoryTest, AnotherThreadFreesABlock )
+{
+    for ( int round = 0; round < 50; ++round ) {
+        std::vector<ko::Block> blocks;
+        for ( size_t i = 0; i < 500; ++i ) {
+            blocks.push_back( ko::Allocate( 1 + i * 37 % 3000 ) );
+            memset( blocks.back().memory, 1, blocks.back().size );
+        }
+        std::thread( [&] {
+            for ( ko::Block &block : blocks ) {
+                ko::Free( block.memory, block.blockClass );
+                block = ko::Allocate( block.size );
+                memset( block.memory, 2, block.size );
+            }
+        } ).join();
+        for ( const ko::Block &block : blocks ) { // the thread that made them is gone
+            EXPECT_EQ( static_cast<const unsigned char *>( block.memory )[block.size - 1], 2 );
+            ko::Free( block.memory, block.blockClass );
+        }
+    }
+}
+
+TEST_F( MemoryTest, CountsOutliveTheirThreads )
+{
+    const int64_t earlier = ko::ObjectCount();
+    ko::CountObject( 1 );
+    EXPECT_EQ( ko::ObjectCount(), earlier + 1 );
+    std::thread( [] { ko::CountObject( 1 ); } ).join();
+    EXPECT_EQ( ko::ObjectCount(), earlier + 2 );
+    std::thread( [] {
+        ko::CountObject( -1 );
+        ko::CountObject( -1 );
+    } ).join();
+    EXPECT_EQ( ko::ObjectCount(), earlier );
+}
+
+TEST_F( MemoryTest, ManyThreadsComeAndGo )
+{
+    const int64_t earlier = ko::ObjectCount();
+    std::atomic<int64_t> left = 0;
+    for ( int round = 0; round < 50; ++round ) {
+        std::vector<std::thread> threads;
+        for ( int i = 0; i < 8; ++i ) {
+            threads.emplace_back( [&, i] {
+                for ( int32_t j = 0; j < 100; ++j ) {
+                    const ko::Block block = ko::Allocate( static_cast<size_t>( 1 + i * 100 + j ) );
+                    memset( block.memory, i, block.size );
+                    ko::CountObject( 1 );
+                    ko::Free( block.memory, block.blockClass );
+                }
+                ko::CountObject( -i );
+                left += 100 - i;
+            } );
+        }
+        for ( std::thread &thread : threads ) {
+            thread.join();
+        }
+        EXPECT_EQ( ko::ObjectCount(), earlier + left );
+    }
+    ko::CountObject( static_cast<int32_t>( -left ) );
+    EXPECT_EQ( ko::ObjectCount(), earlier );
+}
+
+// The counts of the library itself, which are others than those of this test's own unit.
+TEST_F( MemoryTest, ObjectsOfAllThreadsAreCounted )
+{
+    const KoInt earlier = ko___ObjLiveCount();
+    KoString kept = nullptr;
+    std::thread( [&] {
+        kept = koStringCreateFromCstr( "kept", -1 );
+        koStringRelease( koStringCreateFromCstr( "not kept", -1 ) );
+    } ).join();
+    EXPECT_EQ( ko___ObjLiveCount(), earlier + 1 );
+    koStringRelease( kept );
+    EXPECT_EQ( ko___ObjLiveCount(), earlier );
+    const KoString constant = koStringCreateFromCstr( "constant", -1 );
+    ko___ObjMakeConstant( koStringObj( constant ) );
+    EXPECT_EQ( ko___ObjLiveCount(), earlier ) << "a constant does not count";
+    koStringRelease( constant );
+    EXPECT_EQ( koStringLength( constant ), 8 ) << "and does not end";
+}
+
+} // namespace
