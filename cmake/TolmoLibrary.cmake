@@ -29,8 +29,8 @@ if( TOLMO_COVERAGE )
     target_link_options( tolmo_options INTERFACE --coverage )
 endif()
 
-# tolmo_library( NAME MODULE FOLDER NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.
-function( tolmo_library name folder )
+# tolmo_library( NAME FOLDER DESCRIPTION NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.
+function( tolmo_library name folder description )
     file( GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp )
     file( GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h )
     add_library( ${name} ${sources} )
@@ -55,4 +55,9 @@ function( tolmo_library name folder )
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} )
     install( FILES ${headers}
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolmo-${PROJECT_VERSION_MAJOR}/${folder} )
+    set( pc_name ${name} )
+    set( pc_description ${description} )
+    list( JOIN ARGN " " pc_requires )
+    configure_file( ${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY )
+    install( FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig )
 endfunction()

@@ -84,6 +84,15 @@ KO_API KoBuffer koBufferCreate( void );
 KO_API KoBuffer koBufferCreateFromBytesCopy( const void *bytes, KoInt length );
 
 /**
+ * A buffer whose bytes are not set, for code that fills it at once.
+ *
+ * @param length The number of bytes.
+ * @return new reference, with a count of 1 also when the length is 0.
+ * @pre length >= 0
+ */
+KO_API KoBuffer ko___BufferCreateOfLength( KoInt length );
+
+/**
  * The number of bytes.
  *
  * @param b shared, the caller keeps its reference.
