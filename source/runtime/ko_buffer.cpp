@@ -128,6 +128,14 @@ KoBuffer koBufferCreateFromBytesCopy( const void *bytes, KoInt length )
     return CreateFromBytes( static_cast<const uint8_t *>( bytes ), BytesLength( bytes, length ) );
 }
 
+KoBuffer ko___BufferCreateOfLength( KoInt length )
+{
+    KO_REQUIRE( length >= 0 );
+    const KoBuffer b = CreateWithBytes( nullptr, 0, length );
+    b->length = length;
+    return b;
+}
+
 KoInt koBufferLength( KoBuffer b )
 {
     KO_REQUIRE( b );

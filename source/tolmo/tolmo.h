@@ -23,6 +23,12 @@
 #include <tolmo/tolmo_event_type.h>
 #include <tolmo/tolmo_generic_param.h>
 #include <tolmo/tolmo_generic_params.h>
+#include <tolmo/tolmo_handling.h>
+#include <tolmo/tolmo_header_max_forwards.h>
+#include <tolmo/tolmo_header_subject.h>
+#include <tolmo/tolmo_header_via.h>
+#include <tolmo/tolmo_history_info_index.h>
+#include <tolmo/tolmo_host.h>
 #include <tolmo/tolmo_info_package_name.h>
 #include <tolmo/tolmo_iri.h>
 #include <tolmo/tolmo_max_forwards.h>

@@ -16,8 +16,8 @@ inline KoString EncodeDiversionWord( KoString word )
 /** The text of a token, or the text inside of the quotes; null when the text is neither. */
 inline KoString TryDecodeDiversionWord( const KoChar *chs, KoInt length )
 {
-    return length > 0 && skip::Token( chs, length ) == length ? koStringCreateFromCharsCopy( chs, length )
-                                                              : tolmo___QuotableStringTryDecode( chs, length );
+    return IsWhole( Text( chs, length ), skip::Token ) ? koStringCreateFromCharsCopy( chs, length )
+                                                       : tolmo___QuotableStringTryDecode( chs, length );
 }
 
 } // namespace tolmo

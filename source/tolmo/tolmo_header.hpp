@@ -110,8 +110,6 @@ inline bool IsHeader( TolmoMessageHeader header, NameId name, KoString constant 
     return ( header && header->name == KnownNameString( name ) ) || tolmoMessageHeaderNameEquals( header, constant );
 }
 
-} // namespace tolmo
-
 /** What a single-value header is decoded with: its last line; a raw header without lines gives null. */
 template <class DecodeLine>
 auto DecodeLastLine( const Lines &lines, DecodeLine decodeLine )

@@ -111,7 +111,7 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
 {
     HeaderTable *const copy = CreateHeaderTable( capacity, Share( table->decoded ) ).Leak();
     copy->count = table->count;
-    copy->index = table->index.Copy();
+    copy->index = table->index ? table->index.Moved( capacity, 0 ) : ko::Index();
     memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
             static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
     for ( KoInt i = 0; i < table->count; ++i ) {
@@ -156,8 +156,8 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
         // The entries and the index move; the old table has nothing left to free.
         HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
         std::swap( grown->decoded, own->decoded );
-        std::swap( grown->index, own->index );
         std::swap( grown->count, own->count );
+        grown->index = own->index ? own->index.Moved( grown->capacity, 0 ) : ko::Index();
         memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
                 static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
         ko___Release( &own->head );
@@ -166,10 +166,9 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
     HeaderEntry *const appended = own->Entries() + own->count++;
     *appended = entry;
     if ( own->index ) {
-        own->index.Reserve( own->count );
         own->index.Add( HashOf( own, entry ), own->count - 1 );
     } else if ( own->count > indexedFrom ) {
-        own->index.Reserve( own->count );
+        own->index = ko::Index::Create( own->capacity );
         for ( KoInt i = 0; i < own->count; ++i ) {
             own->index.Add( HashOf( own, own->Entries()[i] ), i );
         }

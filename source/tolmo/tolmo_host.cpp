@@ -33,9 +33,10 @@ KoString tolmo___HostTryDecode( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    if ( length == 0 || tolmo::skip::Host( chs, length ) != length ) {
+    const tolmo::Text text( chs, length );
+    if ( !tolmo::IsWhole( text, tolmo::skip::Host ) ) {
         return nullptr;
     }
-    const auto host = tolmo::Text( chs, length ).Copy();
+    const auto host = text.Copy();
     return wenDnsIdnaDomainNameOk( host.Get() ) ? wenDnsIdnaDomainNameToUnicode( host.Get() ) : nullptr;
 }

@@ -3,6 +3,7 @@
 
 #include <ko_build.hpp>
 #include <tolmo/tolmo.h>
+#include <tolmo/tolmo_params.hpp>
 
 namespace {
 
@@ -20,12 +21,13 @@ void ( *const stopHeader[] )( void ) = {
 
 KoBool Start( void )
 {
+    tolmo::StartParams();
     for ( const auto start : startHeader ) {
         start();
     }
     tolmo___MessageHeaderStartup();
     tolmo___SessUuidStartup();
-    tolmo___UuiValueStartup();
+    // tolmo___UuiValueStartup();
     tolmo___VersionStartup();
     tolmo___ViaStartup();
     tolmo___MessageFragmentStartup();
@@ -37,13 +39,14 @@ void Stop( void )
 {
     tolmo___MessageFragmentShutdown();
     tolmo___SessUuidShutdown();
-    tolmo___UuiValueShutdown();
+    // tolmo___UuiValueShutdown();
     tolmo___VersionShutdown();
     tolmo___ViaShutdown();
     tolmo___MessageHeaderShutdown();
     for ( const auto stop : stopHeader ) {
         stop();
     }
+    tolmo::StopParams();
 }
 
 } // namespace

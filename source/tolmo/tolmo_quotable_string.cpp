@@ -62,7 +62,7 @@ KoString tolmo___QuotableStringTryDecode( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    if ( length == 0 || tolmo::skip::QuotedString( chs, length ) != length ) {
+    if ( !tolmo::IsWhole( tolmo::Text( chs, length ), tolmo::skip::QuotedString ) ) {
         return nullptr;
     }
     const KoInt first = tolmo::skip::Sws( chs, length ) + 1;

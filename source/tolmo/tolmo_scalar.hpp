@@ -7,11 +7,17 @@
 
 namespace tolmo {
 
-/** True when a string is not empty and a skip function takes all of it. */
+/** True when a text is not empty and a skip function takes all of it. */
+template <class Skip>
+bool IsWhole( Text text, Skip skip )
+{
+    return text.length > 0 && skip( text.chs, text.length ) == text.length;
+}
+
 template <class Skip>
 bool IsWhole( KoString s, Skip skip )
 {
-    return s->length > 0 && skip( ko::Chars( s ), s->length ) == s->length;
+    return IsWhole( Text( s ), skip );
 }
 
 /** A new reference to the string in small letters; the string itself stays as it is. */

@@ -2,6 +2,8 @@
 #ifndef TOLMO_WALK_HPP
 #define TOLMO_WALK_HPP
 
+#include <tolmo/tolmo_char.hpp>
+
 #include <runtime/ko_inner.hpp>
 
 namespace tolmo {
