@@ -29,8 +29,8 @@ if( TOLMO_COVERAGE )
     target_link_options( tolmo_options INTERFACE --coverage )
 endif()
 
-# tolmo_library( NAME MODULE FOLDER NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.
-function( tolmo_library name folder )
+# tolmo_library( NAME FOLDER DESCRIPTION NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.
+function( tolmo_library name folder description )
     file( GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp )
     file( GLOB headers CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.h )
     add_library( ${name} ${sources} )
@@ -45,11 +45,19 @@ function( tolmo_library name folder )
     set( map ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/lib${name}.map )
     if( BUILD_SHARED_LIBS )
         target_link_options( ${name} PRIVATE
-            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--no-undefined -Wl,--as-needed )
+            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed )
+        if( NOT TOLMO_SANITIZE ) # clang leaves the sanitizer to the program
+            target_link_options( ${name} PRIVATE -Wl,--no-undefined )
+        endif()
         set_target_properties( ${name} PROPERTIES LINK_DEPENDS ${map} )
     endif()
     install( TARGETS ${name} EXPORT tolmo-targets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} )
     install( FILES ${headers}
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tolmo-${PROJECT_VERSION_MAJOR}/${folder} )
+    set( pc_name ${name} )
+    set( pc_description ${description} )
+    list( JOIN ARGN " " pc_requires )
+    configure_file( ${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY )
+    install( FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig )
 endfunction()

@@ -32,19 +32,19 @@ KO_API KoObj wenAddressObj( WenAddress address );
 /**
  * Adds a reference.
  *
- * @param address shared, the caller keeps its reference.
+ * @param object shared, the caller keeps its reference.
  * @return new reference: the same handle.
- * @pre address
+ * @pre object
  */
-KO_API WenAddress wenAddressRetain( WenAddress address );
+KO_API WenAddress wenAddressRetain( WenAddress object );
 
 /**
  * Drops a reference; the last one ends the address.
  *
- * @param address taken over.
- * @pre address
+ * @param object taken over.
+ * @pre object
  */
-KO_API void wenAddressRelease( WenAddress address );
+KO_API void wenAddressRelease( WenAddress object );
 
 /**
  * The address that a text tells, as wen___SkipIpV4Address and wen___SkipIpV6Address read it: without brackets, without

@@ -15,9 +15,14 @@ constexpr int prefixLength = 4; // xn--
 // A label whose ASCII form fits has at most labelLimit characters, of which each decomposes to at most four.
 static_assert( normaliseLimit == 4 * labelLimit );
 
-bool IsAscii( KoChar ch )
+bool IsAscii( const KoChar *chs, int length )
 {
-    return ch >= 0 && ch < 0x80;
+    for ( int i = 0; i < length; ++i ) {
+        if ( chs[i] >= 0x80 ) {
+            return false;
+        }
+    }
+    return true;
 }
 
 KoChar ToSmall( KoChar ch )
@@ -228,14 +233,10 @@ private:
     /** Adds a label that is no `xn--` label. */
     bool AddPlain( int length )
     {
-        bool plain = true;
-        for ( int i = 0; i < length; ++i ) {
-            plain = plain && IsAscii( label[i] );
-        }
         if ( !Check( label, length ) || !unicode.Add( label, length ) ) {
             return false;
         }
-        if ( plain ) {
+        if ( IsAscii( label, length ) ) {
             return ascii.Add( label, length );
         }
         KoChar encoded[labelLimit] = { 'x', 'n', '-', '-' };
@@ -243,14 +244,14 @@ private:
         return count >= 0 && ascii.Add( encoded, prefixLength + count );
     }
 
-    /** Adds an `xn--` label, which must be what its own Unicode form is encoded to. */
+    /** Adds an `xn--` label, which must be what its own Unicode form is encoded to; ASCII never is. */
     bool AddEncoded( int length )
     {
         KoChar decoded[normaliseLimit];
         const KoChar *const code = label + prefixLength;
         const int codeLength = length - prefixLength;
         const int count = PunycodeDecode( code, codeLength, decoded );
-        if ( count <= 0 || !Check( decoded, count ) ) {
+        if ( count <= 0 || IsAscii( decoded, count ) || !Check( decoded, count ) ) {
             return false;
         }
         KoChar normal[normaliseLimit];

@@ -81,8 +81,8 @@ KO_API KoBool ulmGensValidatePart( KoInt part, KoString iri );
  * wenDnsIdnaDomainNameToUnicode. Where a second `@` makes the host doubtful, it is text like the rest.
  *
  * @param uri shared, the caller keeps its reference.
- * @return new reference: the same string when there is nothing to convert; null when ulm___SkipIri does not take the
- * text whole. A result passes ulmGensValidatePart.
+ * @return new reference: the same string when it is ASCII, escapes ASCII only and has no `xn--` label to convert; null
+ * when ulm___SkipIri does not take the text whole. A result passes ulmGensValidatePart.
  * @pre uri
  */
 KO_API KoString ulmTryConvertFromUri( KoString uri );

@@ -205,7 +205,7 @@ KoString TryConvertFromUri( Text uri, KoString same )
         return nullptr;
     }
     const Host host( iri, uri.chs );
-    if ( iri.ascii && !iri.escapes ) {
+    if ( iri.ascii && iri.asciiEscapes ) {
         KoChar unicode[WEN_DNS_NAME_LIMIT];
         const KoInt length = wen___DnsIdnaToUnicode( uri.chs + host.begin, host.end - host.begin, unicode );
         if ( length == 0 ) {

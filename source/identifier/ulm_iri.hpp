@@ -69,8 +69,8 @@ struct Iri {
     KoInt colon = 0;  // the one behind the scheme
     KoInt at = -1;    // the first @
     bool secondAt = false;
-    bool escapes = false;
-    bool ascii = true;
+    bool ascii = true;        // no other character
+    bool asciiEscapes = true; // and none that is escaped
 };
 
 /** Reads the longest identifier at the start of a text, in one pass. */
@@ -103,7 +103,7 @@ inline Iri Read( const KoChar *chs, KoInt length )
         } else if ( ch == '#' && !fragment ) {
             fragment = true;
         } else if ( IsEscape( chs, length, i ) ) {
-            iri.escapes = true;
+            iri.asciiEscapes = iri.asciiEscapes && chs[i + 1] < '8';
             i += 2;
         } else if ( IsUcschar( ch ) || ( query && IsPrivate( ch ) ) ) {
             iri.ascii = false;

@@ -251,28 +251,44 @@ KO_API void koBufferDelOuter( KoBuffer *b, KoInt offset, KoInt length );
 
 /** @} */
 
+/** @name Between bytes and characters
+ * @{ */
+
 /** The charset code of UTF-8. */
 #define KO_CHARSET_UTF8 44
 
 /**
- * Converts bytes to a string, strictly: overlong forms, surrogates, values above U+10FFFF and broken sequences give
- * null.
+ * Converts bytes to a string, strictly (RFC 3629): overlong forms, surrogates, values above U+10FFFF and broken
+ * sequences give null. U+0000, noncharacters and a byte order mark are characters like any other.
  *
  * @param charset KO_CHARSET_UTF8; nothing else is known.
+ * @param b shared, the caller keeps its reference.
  * @param flags 1 (strict).
- * @return new reference, or null when the bytes are not valid in the charset.
+ * @return new reference, or null when the bytes are not valid in the charset. No bytes give an empty string.
+ * @pre charset == KO_CHARSET_UTF8
+ * @pre b
+ * @pre flags == 1
  */
 KO_API KoString koCharsetTryConvertBufferToStringWithFlags( KoInt charset, KoBuffer b, KoInt flags );
 
 /**
- * Converts characters to UTF-8. What is no scalar value becomes U+FFFD, so that the output is always valid.
+ * Converts characters to UTF-8 (RFC 3629). What is no scalar value becomes U+FFFD, so that the output is always valid.
  *
- * @param out Receives the bytes if they fit; may be null when `capacity` is 0.
+ * @param out Receives the bytes if all of them fit, else it is left alone; may be null when `capacity` is 0.
  * @param capacity Room in `out`.
+ * @param chs The characters; may be null when the length is 0.
+ * @param length Their number, or -1 when a zero ends them.
  * @param reserved KO_FALSE.
  * @return The number of bytes that the conversion needs, whatever the capacity.
+ * @pre out || capacity == 0
+ * @pre capacity >= 0
+ * @pre chs || length == 0
+ * @pre length >= -1
+ * @pre !reserved
  */
 KO_API KoInt koCharsConvertToUtf8( void *out, KoInt capacity, const KoChar *chs, KoInt length, KoBool reserved );
+
+/** @} */
 
 KO_END_DECLS
 

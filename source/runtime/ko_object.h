@@ -58,7 +58,7 @@ typedef const struct ko___Sort *KoSort;
  * @param size Size of the whole object in bytes, its head included.
  * @param sort The sort of the object.
  * @return new reference; never null (out of memory ends the process).
- * @pre size >= (KoInt) sizeof( struct ko___Obj )
+ * @pre size >= (KoInt)sizeof( struct ko___Obj )
  * @pre sort
  */
 KO_API KoObj ko___ObjCreate( KoInt size, KoSort sort );

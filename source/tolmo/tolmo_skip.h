@@ -6,14 +6,14 @@
 
 /**
  * @file
- * A skip function says how many characters at the start of a text form its element, 0 when it is not there. It stops where
- * the element stops and says nothing about what follows: a text is a whole element when the result is its length. It never
- * reads behind `length`, allocates nothing, and takes time linear in the length. An element that may be empty gives 0 as
- * well. Alternatives are tried in the order in which they stand here; the first that is there is taken.
+ * A skip function says how many characters at the start of a text form its element, 0 when it is not there. It stops
+ * where the element stops and says nothing about what follows: a text is a whole element when the result is its length.
+ * It never reads behind `length`, allocates nothing, and takes time linear in the length. An element that may be empty
+ * gives 0 as well. Alternatives are tried in the order in which they stand here; the first that is there is taken.
  *
  * The text has no folded lines: whitespace is blank and tab. In the rules below SWS is *( SP / HTAB ), LWS is
- * 1*( SP / HTAB ), and the separators bring the whitespace that their own rules tell. A rule that differs from its RFC says
- * so. Texts stand in any case of their letters unless it says otherwise.
+ * 1*( SP / HTAB ), and the separators bring the whitespace that their own rules tell. Quoted words match in any ASCII
+ * case, unless the rule says otherwise. A rule that differs from its RFC says so.
  *
  * All have these arguments and preconditions, and some have more behind them:
  *
@@ -60,7 +60,7 @@ KO_API KoInt tolmo___SkipCharsAsciiCaseFold( const KoChar *chs, KoInt length, co
 
 /** @} @name Separators @{ */
 
-/** HCOLON = SWS ":" SWS. The RFC takes a folded line only behind the colon. */
+/** HCOLON = SWS ":" SWS */
 KO_API KoInt tolmo___SkipHcolon( const KoChar *chs, KoInt length );
 /** COLON = SWS ":" SWS */
 KO_API KoInt tolmo___SkipColon( const KoChar *chs, KoInt length );
@@ -104,15 +104,15 @@ KO_API KoInt tolmo___SkipDigits( const KoChar *chs, KoInt length );
 /**
  * quoted-string = LDQUOT *( any character but DQUOTE, "\", CR, LF / "\" any character but CR, LF ) DQUOTE
  *
- * Whitespace in front counts, whitespace behind does not. The RFC has no controls here, and no non-ASCII characters behind
- * a backslash.
+ * Whitespace in front counts, whitespace behind does not. The RFC has no controls here, and no non-ASCII characters
+ * behind a backslash.
  */
 KO_API KoInt tolmo___SkipQuotedString( const KoChar *chs, KoInt length );
 /**
  * comment = LPAREN *( ctext / "\" any character but CR, LF / comment ) RPAREN
  *
- * ctext is whitespace and all characters from 0x21 up but "(", ")", "\" and 0x7F. Comments nest without limit. The RFC has
- * no non-ASCII characters behind a backslash.
+ * ctext is whitespace and all characters from 0x21 up but "(", ")", "\" and 0x7F. Comments nest without limit. The RFC
+ * has no non-ASCII characters behind a backslash.
  */
 KO_API KoInt tolmo___SkipComment( const KoChar *chs, KoInt length );
 
@@ -140,9 +140,9 @@ KO_API KoInt tolmo___SkipPort( const KoChar *chs, KoInt length );
 KO_API KoInt tolmo___SkipHostPort( const KoChar *chs, KoInt length );
 /** user = 1*( unreserved / escape / user-unreserved ) */
 KO_API KoInt tolmo___SkipUser( const KoChar *chs, KoInt length );
-/** password = *( unreserved / escape / "&" / "=" / "+" / "$" / "," ) */
+/** password = 1*( unreserved / escape / "&" / "=" / "+" / "$" / "," ) */
 KO_API KoInt tolmo___SkipPassword( const KoChar *chs, KoInt length );
-/** *uric, uric = reserved / unreserved / escape */
+/** 1*uric, uric = reserved / unreserved / escape */
 KO_API KoInt tolmo___SkipUric( const KoChar *chs, KoInt length );
 /** pvalue = 1*( unreserved / escape / "[" / "]" / "/" / ":" / "&" / "+" / "$" ) */
 KO_API KoInt tolmo___SkipPvalue( const KoChar *chs, KoInt length );
@@ -186,7 +186,8 @@ KO_API KoInt tolmo___SkipMessageHeaderName( const KoChar *chs, KoInt length );
 /** Method = token */
 KO_API KoInt tolmo___SkipMethod( const KoChar *chs, KoInt length );
 /**
- * month = "Jan" / "Feb" / "Mar" / "Apr" / "May" / "Jun" / "Jul" / "Aug" / "Sep" / "Oct" / "Nov" / "Dec", in this case only
+ * month = "Jan" / "Feb" / "Mar" / "Apr" / "May" / "Jun" / "Jul" / "Aug" / "Sep" / "Oct" / "Nov" / "Dec"; in this case
+ * only
  *
  * @param value may be null; receives 1 to 12, and stays as it is when there is no month.
  */
@@ -221,7 +222,7 @@ KO_API KoInt tolmo___SkipRvalue( const KoChar *chs, KoInt length );
 KO_API KoInt tolmo___SkipServer( const KoChar *chs, KoInt length );
 /** server-val = token [ SLASH token ] / comment */
 KO_API KoInt tolmo___SkipServerVal( const KoChar *chs, KoInt length );
-/** sess-uuid = 32( DIGIT / %x61-7A ), the first 32 of a longer run. The RFC 7989 has hexadecimal digits. */
+/** sess-uuid = 32( DIGIT / %x61-7A ), the first 32 of a longer run. RFC 7989 has hexadecimal digits. */
 KO_API KoInt tolmo___SkipSessUuid( const KoChar *chs, KoInt length );
 /** sip-clean-msg-id = dot-atom "@" ( dot-atom / host ), the longer of the two (RFC 3892) */
 KO_API KoInt tolmo___SkipSipCleanMsgId( const KoChar *chs, KoInt length );

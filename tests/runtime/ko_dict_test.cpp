@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <random>
+#include <thread>
 
 namespace {
 
@@ -342,6 +343,29 @@ TEST_F( DictTest, AHundredThousandKeys )
     EXPECT_EQ( koDictLength( d.Get() ), 1000 );
     EXPECT_EQ( Get( d, std::to_string( count - 1 ) ), "x" );
     EXPECT_EQ( Get( d, std::to_string( count - 1001 ) ), "(null)" );
+}
+
+// A thread sanitizer would see a reader that writes, such as one that makes an index.
+TEST_F( DictTest, ThreadsReadOneDictionary )
+{
+    for ( const int count : { 8, 9, 300 } ) {
+        const Pairs pairs = Many( count );
+        const Dict shared = Of( pairs );
+        std::vector<std::thread> threads;
+        for ( int i = 0; i < 3; ++i ) {
+            threads.emplace_back( [&] {
+                Dict own = Dict::Share( shared.Get() );
+                EXPECT_EQ( All( own ), pairs );
+                Set( own, "mine", "x" );
+                EXPECT_EQ( koDictLength( own.Get() ), count + 1 );
+            } );
+        }
+        for ( std::thread &thread : threads ) {
+            thread.join();
+        }
+        EXPECT_EQ( All( shared ), pairs );
+        EXPECT_EQ( test::Count( shared.Get() ), 1 );
+    }
 }
 
 // --- Order

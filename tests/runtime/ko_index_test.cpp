@@ -24,7 +24,7 @@ protected:
     void Check( uint32_t hashes )
     {
         for ( const auto &[position, hash] : model ) {
-            ASSERT_EQ( index.Find( hash, [&]( KoInt at ) { return at == position; } ), position );
+            ASSERT_EQ( index.Find( hash, [wanted = position]( KoInt at ) { return at == wanted; } ), position );
         }
         for ( uint32_t hash = 0; hash < hashes; ++hash ) {
             size_t seen = 0;

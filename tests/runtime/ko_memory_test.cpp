@@ -182,7 +182,8 @@ TEST_F( MemoryTest, ObjectsOfAllThreadsAreCounted )
     EXPECT_EQ( ko___ObjLiveCount(), earlier + 1 );
     koStringRelease( kept );
     EXPECT_EQ( ko___ObjLiveCount(), earlier );
-    const KoString constant = koStringCreateFromCstr( "constant", -1 );
+    static KoString constant = nullptr; // lives as long as the process
+    constant = koStringCreateFromCstr( "constant", -1 );
     ko___ObjMakeConstant( koStringObj( constant ) );
     EXPECT_EQ( ko___ObjLiveCount(), earlier ) << "a constant does not count";
     koStringRelease( constant );

@@ -329,6 +329,7 @@ const Rows nameAddrRows = {
     { "", "<sip:a#b#c>" },
     { "", "\"Alice <sip:a>" },
     { "", "\"Alice\"" },
+    { "", "\"Alice\"sip:a>" },
     { "", "a.b@c <sip:a>" },
     { "", "," },
 };
@@ -354,7 +355,7 @@ const Rows bareAddrRows = {
 /** The rows of name-addr with parameters behind them. */
 const Rows paramsBehindNameAddr = {
     { "<sip:a>;x=1", "" }, { "<sip:a> ; x = 1 ;y", " ,<sip:b>" }, { "<sip:a>;x=\"a,b;c\"", ";" },
-    { "<sip:a> ", ";" },   { "A <sip:a>;x=[::1];y", ";z=" },
+    { "<sip:a> ", ";" },   { "A <sip:a>;x=[::1];y", ";z=" },      { "", ";x=1" },
 };
 
 const Rows infoRows = {
@@ -366,6 +367,8 @@ const Rows infoRows = {
     { "\t<sip:a>\t;a;b=c", ";" },
     { "", "a <sip:a>" }, // no display name here
     { "", "sip:a" },
+    { "", "sip:a>" },
+    { "", ";x" },
     { "", "<sip:a" },
     { "", "<>" },
 };
@@ -478,6 +481,8 @@ const Rows hostPortRows = {
     { "h:5060", "x" },
     { "[::1]:5060", "" },
     { "a.:1", ":2" },
+    { "[::1]", "5060" },
+
     { "a:99999", "" }, // no bound but that of the number type
     { "a:9223372036854775807", "" },
     { "a", ":9223372036854775808" },
@@ -548,6 +553,8 @@ const Rows notReceivedRows = {
     { "", "" },
     { "", "received" },
     { "", "received=" },
+    { "", "received::1" },
+    { "", "=::1" },
     { "", "received=host" },
     { "", "received=[::1]" },
     { "", "received=1.2.3.256" },
@@ -614,7 +621,10 @@ const Rows viaRows = {
     { "SIP/2.0/UDP a", " (c)" },
     { "a/b/c d", "" }, // any three tokens
     { "SIP/2.0/UDP 1.2.3.4x", "" },
-    { "", "SIP/2.0/UDPa" },
+    { "", "SIP/2.0/UDPa" }, // whitespace has to stand in front of the host
+    { "", "SIP/2.0/UDP[::1]" },
+    { "", "/UDP a" },
+    { "", "SIP/2.0/UDP :5060" },
     { "", "SIP/2.0/UDP" },
     { "", "SIP/2.0/UDP " },
     { "", "SIP/2.0/UDP a:" },
@@ -980,6 +990,7 @@ const std::vector<Function> &Functions()
             { "", "@b" },
             { "", "a.@b" },
             { "", "a @b" },
+            { "", "a[::1]" },
             { "", "a@[::1" } } },
         { SKIP( SipInstance ),
           { { "", "" },
@@ -1148,6 +1159,7 @@ const std::vector<Function> &Functions()
             { "", "399 a x" },
             { "", "399 a \"x" },
             { "", "399  \"x\"" },
+            { "", " a \"x\"" },
             { "", " 399 a \"x\"" } } },
     };
     return all;
@@ -1193,9 +1205,19 @@ TEST_F( SkipTest, AcceptCountsTheParametersAlone )
         const char *text;
         KoInt expected;
     } rows[] = {
-        { "text/plain;q=1", 4 },      { "text/plain ; q = 1 ", 8 }, { "*/*;a", 2 },
-        { "text/*;a;b=c", 6 },        { "** / *x;a", 2 },           { "text/plain;a;", 2 },
-        { "text/plain;a,*/*;bc", 2 }, { "*/plain;a", 0 },           { "*/**;a", 0 },
+        { "text/plain;q=1", 4 },
+        { "text/plain ; q = 1 ", 8 },
+        { "*/*;a", 2 },
+        { "text/*;a;b=c", 6 },
+        { "** / *x;a", 2 },
+        { "text/plain;a;", 2 },
+        { "text/plain;a,*/*;bc", 2 },
+        { "*/plain;a", 0 },
+        { "*/**;a", 0 },
+        { "*/;a", 0 },
+        { "text/;a", 0 },
+        { "/*;a", 0 },
+        { "/plain;a", 0 },
         { "text/plain", 0 },
     };
     for ( const auto &row : rows ) {
@@ -1212,9 +1234,9 @@ TEST_F( SkipTest, NullIsAnEmptyText )
 }
 
 /**
- * Every function on every beginning of every row, in a block that ends where the text ends: the result lies in the text,
- * and the characters that were taken are the element by themselves. That does not hold of Accept, whose result is not the
- * length of its element.
+ * Every function on every beginning of every row, in a block that ends where the text ends: the result lies in the
+ * text, and the characters that were taken are the element by themselves. That does not hold of Accept, whose result is
+ * not the length of its element.
  */
 TEST_F( SkipTest, EveryFunctionOnEveryBeginningOfEveryRow )
 {
@@ -1351,8 +1373,8 @@ TEST_F( SkipTest, AListOfBareAddressesIsNotSearchedToItsEndForEachOfThem )
 }
 
 /*
- * Some functions once more, slowly and in another way: an element is what a whole text is tested for, and the result is the
- * longest beginning that is one.
+ * Some functions once more, slowly and in another way: an element is what a whole text is tested for, and the result is
+ * the longest beginning that is one.
  */
 
 using WholeTest = bool ( * )( const std::u32string & );
@@ -1404,7 +1426,7 @@ std::vector<std::u32string> SplitAt( char32_t separator, const std::u32string &t
     return parts;
 }
 
-/** The text with each pair of backslash and character made one "x"; a line end, which is good nowhere, for a bad pair. */
+/** The text with each pair of backslash and character made one "x"; with a line end, good nowhere, for a bad pair. */
 std::u32string WithoutPairs( const std::u32string &text )
 {
     const size_t pair = text.find( U'\\' );
