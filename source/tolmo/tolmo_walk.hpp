@@ -5,6 +5,7 @@
 #include <tolmo/tolmo_char.hpp>
 
 #include <runtime/ko_inner.hpp>
+#include <tolmo/tolmo_char.hpp>
 
 namespace tolmo {
 
