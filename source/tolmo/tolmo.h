@@ -7,6 +7,7 @@
 #include <tolmo/tolmo_branch.h>
 #include <tolmo/tolmo_call_id.h>
 #include <tolmo/tolmo_char.h>
+#include <tolmo/tolmo_contact.h>
 #include <tolmo/tolmo_content_coding.h>
 #include <tolmo/tolmo_cseq.h>
 #include <tolmo/tolmo_delta_seconds.h>
@@ -24,11 +25,18 @@
 #include <tolmo/tolmo_generic_param.h>
 #include <tolmo/tolmo_generic_params.h>
 #include <tolmo/tolmo_handling.h>
+#include <tolmo/tolmo_header_contact.h>
 #include <tolmo/tolmo_header_max_forwards.h>
+#include <tolmo/tolmo_header_p_asserted_identity.h>
+#include <tolmo/tolmo_header_p_preferred_identity.h>
+#include <tolmo/tolmo_header_record_route.h>
+#include <tolmo/tolmo_header_route.h>
+#include <tolmo/tolmo_header_service_route.h>
 #include <tolmo/tolmo_header_subject.h>
 #include <tolmo/tolmo_header_via.h>
 #include <tolmo/tolmo_history_info_index.h>
 #include <tolmo/tolmo_host.h>
+#include <tolmo/tolmo_identity_value.h>
 #include <tolmo/tolmo_info_package_name.h>
 #include <tolmo/tolmo_iri.h>
 #include <tolmo/tolmo_max_forwards.h>
@@ -56,6 +64,7 @@
 #include <tolmo/tolmo_reason_text.h>
 #include <tolmo/tolmo_refresher.h>
 #include <tolmo/tolmo_response_num.h>
+#include <tolmo/tolmo_route.h>
 #include <tolmo/tolmo_rvalue.h>
 #include <tolmo/tolmo_server.h>
 #include <tolmo/tolmo_sess_uuid.h>
