@@ -44,8 +44,9 @@ function( tolmo_library name folder description )
     # Calls inside a library are direct. Nothing of the C++ library is needed at run time.
     set( map ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/lib${name}.map )
     if( BUILD_SHARED_LIBS )
+        # A library stays loaded: threads have something of it to give back at their end, modules are known by address.
         target_link_options( ${name} PRIVATE
-            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed )
+            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed -Wl,-z,nodelete )
         if( NOT TOLMO_SANITIZE ) # clang leaves the sanitizer to the program
             target_link_options( ${name} PRIVATE -Wl,--no-undefined )
         endif()
