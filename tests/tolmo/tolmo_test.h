@@ -1,29 +1,43 @@
-/* What the tests of this library share: the started module, raw headers and messages from literals. */
+/* What the tests of the library share: the fixture that has the module started, references, raw headers and messages for short rows. */
 #ifndef TOLMO_TEST_H
 #define TOLMO_TEST_H
 
-#include "test.h"
+#include <test.h>
 
 #include <tolmo/tolmo.h>
 
 namespace test {
 
-/** The base of the fixtures of this library: the module runs, from the first test to the end of the program. */
+/** Starts the module once in the program, before the first count of live objects. */
 class TolmoFixture : public Fixture {
 protected:
     void SetUp() override
     {
-        static const KoModuleScope module( tolmoModule() );
+        static const KoModuleScope started( tolmoModule() );
         Fixture::SetUp();
     }
 };
+
+/** Takes a reference over: `const auto name = Own( tolmoMessageHeaderName( header ) )`. */
+template <class Handle>
+KoRef<Handle> Own( Handle handle )
+{
+    return KoRef<Handle>::Adopt( handle );
+}
+
+/** True for null, which is released if it is none: for decoders that must refuse. */
+template <class Handle>
+bool IsNull( Handle handle )
+{
+    return !Own( handle );
+}
 
 using Strings = std::vector<std::string>;
 
 /** The texts of a vector of strings that is released. */
 inline Strings TakeStrings( KoVector vector )
 {
-    const auto owned = KoRef<KoVector>::Adopt( vector );
+    const auto owned = Own( vector );
     Strings texts;
     for ( KoInt i = 0; i < koVectorLength( vector ); ++i ) {
         texts.push_back( Take( koStringFrom( koVectorObjAt( vector, i ) ) ) );
@@ -34,7 +48,7 @@ inline Strings TakeStrings( KoVector vector )
 /** A new raw header with lines. */
 inline KoRef<TolmoMessageHeader> RawHeader( std::string_view name, const Strings &lines )
 {
-    auto header = KoRef<TolmoMessageHeader>::Adopt( tolmoMessageHeaderCreate( Str( name ).Get() ) );
+    auto header = Own( tolmoMessageHeaderCreate( Str( name ).Get() ) );
     for ( const auto &line : lines ) {
         tolmoMessageHeaderAppendLine( header.Address(), Str( line ).Get() );
     }
@@ -44,18 +58,14 @@ inline KoRef<TolmoMessageHeader> RawHeader( std::string_view name, const Strings
 /** The lines of a raw header that is released; one line "(null)" for null. */
 inline Strings TakeLines( TolmoMessageHeader header )
 {
-    if ( !header ) {
-        return { "(null)" };
-    }
-    const auto owned = KoRef<TolmoMessageHeader>::Adopt( header );
-    return TakeStrings( tolmoMessageHeaderLinesVector( header ) );
+    const auto owned = Own( header );
+    return header ? TakeStrings( tolmoMessageHeaderLinesVector( header ) ) : Strings{ "(null)" };
 }
 
 /** A request as it was received, with these headers: each line with its line end. */
 inline KoRef<TolmoMessage> Received( std::string_view headers )
 {
-    return KoRef<TolmoMessage>::Adopt(
-        tolmoMessageTryDecode( Buf( "OPTIONS sip:a SIP/2.0\r\n" + std::string( headers ) + "\r\n" ).Get() ) );
+    return Own( tolmoMessageTryDecode( Buf( "OPTIONS sip:a SIP/2.0\r\n" + std::string( headers ) + "\r\n" ).Get() ) );
 }
 
 } // namespace test
