@@ -1,4 +1,4 @@
-/* What the tests of the library share: the fixture that has the module started, references, raw headers and messages for short rows. */
+/* What the tests of the library share: the fixture that has the module started, and short forms for rows. */
 #ifndef TOLMO_TEST_H
 #define TOLMO_TEST_H
 
