@@ -101,19 +101,25 @@ const std::vector<Row> &Rows()
         ROW( Allow, tolmoHeaderAllowCreate(), {}, { "INVITE , ack", "ACK,INVITE" }, { "INVITE,ack,ACK" }, isNull ),
         ROW( AllowEvents, tolmoHeaderAllowEventsCreate(), {}, { "presence.winfo, dialog" }, { "presence.winfo,dialog" }, isNull ),
         ROW( CallId, tolmoHeaderCallIdCreate( Str( "a@b" ).Get() ), { "a@b" }, { "\x01", "1{}@x" }, { "1{}@x" }, isNull ),
+        ROW( Contact, tolmoHeaderContactCreate(), {}, { "<sip:a> , \"b\" <sip:b>;q=1", "sip:c" }, { "<sip:a> ", "\"b\" <sip:b>;q=1", "sip:c" }, isNull ),
         ROW( ContentEncoding, tolmoHeaderContentEncodingCreate(), {}, {}, {}, isEmpty ),
         ROW( Expires, tolmoHeaderExpiresCreate( 60 ), { "60" }, { "soon", "0060" }, { "60" }, isNull ),
         ROW( InReplyTo, tolmoHeaderInReplyToCreate(), {}, { "a@b, c", "a@b" }, { "a@b,c" }, isNull ),
         ROW( MaxForwards, tolmoHeaderMaxForwardsCreate( 70 ), { "70" }, { "", "069" }, { "69" }, isNull ),
         ROW( MinExpires, tolmoHeaderMinExpiresCreate( 60 ), { "60" }, { "soon", "0060" }, { "60" }, isNull ),
         ROW( Organization, tolmoHeaderOrganizationCreate( Str( " A \t B" ).Get() ), { "A B" }, { "\x01", "  C\t D " }, { "C D" }, isNull ),
+        ROW( PAssertedIdentity, tolmoHeaderPAssertedIdentityCreate(), {}, { "<sip:a>, sip:b", "c <tel:1>" }, { "<sip:a>", "sip:b", "c <tel:1>" }, isNull ),
         ROW( PEarlyMedia, tolmoHeaderPEarlyMediaCreate(), {}, { "Supported , gated" }, { "Supported", "gated" }, isEmpty ),
+        ROW( PPreferredIdentity, tolmoHeaderPPreferredIdentityCreate(), {}, { "<sip:a>, sip:b", "c <tel:1>" }, { "<sip:a>", "sip:b", "c <tel:1>" }, isNull ),
         ROW( Privacy, tolmoHeaderPrivacyCreate(), {}, { "ID ; header" }, { "id;header" }, isNull ),
         ROW( ProxyRequire, tolmoHeaderProxyRequireCreate(), {}, { "Foo, bar", "foo" }, { "foo,bar" }, isNull ),
+        ROW( RecordRoute, tolmoHeaderRecordRouteCreate(), {}, { "<sip:a;lr>,<sip:b>", "c <sip:d>;x" }, { "<sip:a;lr>", "<sip:b>", "c <sip:d>;x" }, isNull ),
         ROW( Require, tolmoHeaderRequireCreate(), {}, { "Foo, bar", "foo" }, { "foo,bar" }, isNull ),
         ROW( ResourcePriority, tolmoHeaderResourcePriorityCreate(), {}, { "q735.1, wps.0" }, { "q735.1", "wps.0" }, isEmpty ),
+        ROW( Route, tolmoHeaderRouteCreate(), {}, { "<sip:a;lr>,<sip:b>", "c <sip:d>;x" }, { "<sip:a;lr>", "<sip:b>", "c <sip:d>;x" }, isNull ),
         ROW( Rseq, tolmoHeaderRseqCreate( 1 ), { "1" }, { "0", "007" }, { "7" }, isNull ),
         ROW( Server, tolmoHeaderServerCreate( Str( "A/1 (b)" ).Get() ), { "A/1 (b)" }, { "/", "C / 2" }, { "C / 2" }, isNull ),
+        ROW( ServiceRoute, tolmoHeaderServiceRouteCreate(), {}, { "<sip:a;lr>,<sip:b>", "c <sip:d>;x" }, { "<sip:a;lr>", "<sip:b>", "c <sip:d>;x" }, isNull ),
         ROW( Subject, tolmoHeaderSubjectCreate( Str( " A \t B" ).Get() ), { "A B" }, { "\x01", "  C\t D " }, { "C D" }, isNull ),
         ROW( Supported, tolmoHeaderSupportedCreate(), {}, { "100rel", "Path" }, { "100rel,path" }, isNull ),
         ROW( Timestamp, tolmoHeaderTimestampCreate( Str( "54" ).Get() ), { "54" }, { "x", "54.1 0.2" }, { "54.1 0.2" }, isNull ),
@@ -152,9 +158,9 @@ class HeaderFamily : public test::TolmoFixture, public testing::WithParamInterfa
 protected:
     using Obj = KoRef<KoObj>;
 
-    const Operations &header = AllOperations()[GetParam()];
-    const Row &row = *std::find_if( Rows().begin(), Rows().end(),
-                                    [this]( auto &candidate ) { return candidate.type == header.type; } );
+    const Row &row = Rows()[GetParam()];
+    const Operations &header = *std::find_if( AllOperations().begin(), AllOperations().end(),
+                                              [this]( auto &candidate ) { return candidate.type == row.type; } );
     const std::string path = "source/tolmo/tolmo_header_" + Underscored( header.type ) + ".cpp";
     // The constant has the capital letter that the normal form of a name asks for.
     const std::string normalName = header.name == "User-to-User" ? "User-To-User" : header.name;
@@ -489,7 +495,7 @@ TEST_P( HeaderFamily, Null )
                           "!obj || koObjSort(obj)==&tolmo___sort_" + std::string( header.sort->name ) );
 }
 
-INSTANTIATE_TEST_SUITE_P( All, HeaderFamily, testing::Range<size_t>( 0, AllOperations().size() ),
-                          []( const auto &instance ) { return AllOperations()[instance.param].type; } );
+INSTANTIATE_TEST_SUITE_P( All, HeaderFamily, testing::Range<size_t>( 0, Rows().size() ),
+                          []( const auto &instance ) { return Rows()[instance.param].type; } );
 
 } // namespace
