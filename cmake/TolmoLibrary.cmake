@@ -44,8 +44,9 @@ function( tolmo_library name folder description )
     # Calls inside a library are direct. Nothing of the C++ library is needed at run time.
     set( map ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/lib${name}.map )
     if( BUILD_SHARED_LIBS )
+        # A library stays loaded: threads have something of it to give back at their end, modules are known by address.
         target_link_options( ${name} PRIVATE
-            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed )
+            -Wl,-Bsymbolic-functions -Wl,--version-script=${map} -Wl,--as-needed -Wl,-z,nodelete )
         if( NOT TOLMO_SANITIZE ) # clang leaves the sanitizer to the program
             target_link_options( ${name} PRIVATE -Wl,--no-undefined )
         endif()
@@ -58,6 +59,7 @@ function( tolmo_library name folder description )
     set( pc_name ${name} )
     set( pc_description ${description} )
     list( JOIN ARGN " " pc_requires )
+    file( RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX} )
     configure_file( ${PROJECT_SOURCE_DIR}/cmake/library.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY )
     install( FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig )
 endfunction()

@@ -77,12 +77,13 @@ KO_API KoBool ulmGensValidatePart( KoInt part, KoString iri );
  * unescaped, and escapes that stay keep their case.
  *
  * In a `sip` or `sips` identifier (in any case) the host is what stands behind the first `@`, or else behind the colon,
- * up to `:`, `;`, `?`, `#`, `/` or the end. It comes in its Unicode form if IDNA has one for it, see
- * wenDnsIdnaDomainNameToUnicode. Where a second `@` makes the host doubtful, it is text like the rest.
+ * up to `:`, `;`, `?`, `#`, `/` or the end. A domain name that IDNA takes comes in its Unicode form, see
+ * wenDnsIdnaDomainNameToUnicode, whether it came as `xn--` labels, escaped or as it is; a name in ASCII without such
+ * labels is left alone. Where a second `@` makes the host doubtful, it is text like the rest.
  *
  * @param uri shared, the caller keeps its reference.
- * @return new reference: the same string when it is ASCII, escapes ASCII only and has no `xn--` label to convert; null
- * when ulm___SkipIri does not take the text whole. A result passes ulmGensValidatePart.
+ * @return new reference: the same string when it is ASCII, escapes ASCII only and has no host with an `xn--` label;
+ * null when ulm___SkipIri does not take the text whole. A result passes ulmGensValidatePart.
  * @pre uri
  */
 KO_API KoString ulmTryConvertFromUri( KoString uri );

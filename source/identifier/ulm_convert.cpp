@@ -154,18 +154,29 @@ void Escape( Text text, Output &out )
 struct Host {
     KoInt begin = 0;
     KoInt end = 0;
+    bool encoded = false; // a label begins with xn--
 
     Host( const Iri &iri, const KoChar *chs )
     {
         const auto small = [&]( KoInt i ) { return chs[i] | 0x20; };
-        const bool sip = small( 0 ) == 's' && ( iri.colon == 3 || ( iri.colon == 4 && small( 3 ) == 's' ) ) &&
+        const bool sip = ( iri.colon == 3 || ( iri.colon == 4 && small( 3 ) == 's' ) ) && small( 0 ) == 's' &&
                          small( 1 ) == 'i' && small( 2 ) == 'p';
         if ( !sip || iri.secondAt ) {
             return;
         }
         begin = ( iri.at >= 0 ? iri.at : iri.colon ) + 1;
-        const auto ends = []( KoChar ch ) { return ch == ':' || ch == ';' || ch == '?' || ch == '#' || ch == '/'; };
-        for ( end = begin; end < iri.length && !ends( chs[end] ); ++end ) {
+        const auto isEncoded = [&]( KoInt i ) {
+            return iri.length - i >= 4 && small( i ) == 'x' && small( i + 1 ) == 'n' && chs[i + 2] == '-' &&
+                   chs[i + 3] == '-';
+        };
+        encoded = isEncoded( begin );
+        for ( end = begin; end < iri.length; ++end ) {
+            if ( Is( chs[end], charHostMark ) ) {
+                if ( chs[end] != '.' ) {
+                    break;
+                }
+                encoded = encoded || isEncoded( end + 1 );
+            }
         }
     }
 };
@@ -192,11 +203,6 @@ void AddUnicodeHost( Text host, Output &out )
     }
 }
 
-KoString New( Text text )
-{
-    return koStringCreateFromCharsCopy( text.chs, text.length );
-}
-
 /** `same` is the string of the text, or null if there is none. */
 KoString TryConvertFromUri( Text uri, KoString same )
 {
@@ -205,17 +211,8 @@ KoString TryConvertFromUri( Text uri, KoString same )
         return nullptr;
     }
     const Host host( iri, uri.chs );
-    if ( iri.ascii && iri.asciiEscapes ) {
-        KoChar unicode[WEN_DNS_NAME_LIMIT];
-        const KoInt length = wen___DnsIdnaToUnicode( uri.chs + host.begin, host.end - host.begin, unicode );
-        if ( length == 0 ) {
-            return same ? koStringRetain( same ) : New( uri );
-        }
-        Output out;
-        out.Add( uri.Part( 0, host.begin ) );
-        out.Add( { unicode, length } );
-        out.Add( uri.Part( host.end, uri.length ) );
-        return out.Leak();
+    if ( iri.ascii && iri.asciiEscapes && !host.encoded ) {
+        return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
     }
     Output out;
     Unescape( uri.Part( 0, host.begin ), true, out );

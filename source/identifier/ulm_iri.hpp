@@ -15,6 +15,7 @@ enum CharClass : uint8_t {
     charScheme = 1u << 1,
     charPlain = 1u << 2, // characters of an identifier without a meaning to it
     charHex = 1u << 3,
+    charHostMark = 1u << 4, // the end of a host, and the dot
 };
 
 consteval std::array<uint8_t, 128> MakeCharTable()
@@ -29,6 +30,7 @@ consteval std::array<uint8_t, 128> MakeCharTable()
     add( charAlpha | charScheme | charPlain, "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz" );
     add( charScheme | charPlain, "0123456789+-." );
     add( charPlain, "_~!$&'()*,;=:/[]" );
+    add( charHostMark, ".:;?#/" );
     add( charHex, "0123456789ABCDEFabcdef" );
     return table;
 }
@@ -39,6 +41,14 @@ inline constexpr std::array<uint8_t, 128> charTable = MakeCharTable();
 inline bool Is( KoChar ch, CharClass charClass )
 {
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & charClass ) != 0;
+}
+
+/** True when each of four characters is in the class: a run of them costs one branch for four. */
+inline bool AreFour( const KoChar *chs, CharClass charClass )
+{
+    const auto at = [&]( int i ) { return static_cast<uint32_t>( chs[i] ); };
+    return ( at( 0 ) | at( 1 ) | at( 2 ) | at( 3 ) ) < charTable.size() &&
+           ( charTable[at( 0 )] & charTable[at( 1 )] & charTable[at( 2 )] & charTable[at( 3 )] & charClass ) != 0;
 }
 
 /** ucschar of RFC 3987. */
@@ -91,6 +101,9 @@ inline Iri Read( const KoChar *chs, KoInt length )
     bool query = false;
     bool fragment = false;
     for ( ; i < length; ++i ) {
+        while ( length - i > 4 && AreFour( chs + i, charPlain ) ) {
+            i += 4;
+        }
         const KoChar ch = chs[i];
         if ( Is( ch, charPlain ) ) {
             continue;

@@ -202,29 +202,48 @@ KO_API KoString koStringCreateFromFormatWcstrArgList( const uint16_t *format, Ko
 /** @} */
 
 /** @name Reading
- * A string is always shared here: the caller keeps its reference.
  * @{ */
 
-/** The number of characters. @pre s */
+/**
+ * The number of characters.
+ *
+ * @param s shared, the caller keeps its reference.
+ * @pre s
+ */
 KO_API KoInt koStringLength( KoString s );
 
-/** The characters, without a zero behind them. They stay as long as the string lives and is not changed. @pre s */
+/**
+ * The characters, without a zero behind them. They stay as long as the string lives and is not changed.
+ *
+ * @param s shared, the caller keeps its reference.
+ * @pre s
+ */
 KO_API const KoChar *koStringBacking( KoString s );
 
 /**
  * The character at an index.
  *
+ * @param s shared, the caller keeps its reference.
+ * @param index Which character, from 0.
  * @pre s
  * @pre index >= 0 && index < koStringLength( s )
  */
 KO_API KoChar koStringCharAt( KoString s, KoInt index );
 
-/** True when the first character is this one; so false for the empty string. @pre s */
+/**
+ * True when the first character is this one; so false for the empty string.
+ *
+ * @param s shared, the caller keeps its reference.
+ * @param ch The character.
+ * @pre s
+ */
 KO_API KoBool koStringBeginsWithChar( KoString s, KoChar ch );
 
 /**
  * True when two strings have the same characters.
  *
+ * @param a shared, the caller keeps its reference.
+ * @param b shared, the caller keeps its reference.
  * @pre a
  * @pre b
  */
@@ -233,6 +252,7 @@ KO_API KoBool koStringEquals( KoString a, KoString b );
 /**
  * True when a string has these characters.
  *
+ * @param s shared, the caller keeps its reference.
  * @param chs The characters; may be null when the length is 0.
  * @param length Their number, or -1 when a zero ends them.
  * @pre s
@@ -244,6 +264,7 @@ KO_API KoBool koStringEqualsChars( KoString s, const KoChar *chs, KoInt length )
 /**
  * Finds characters in a string. The time is linear in the lengths of the two, whatever they hold.
  *
+ * @param s shared, the caller keeps its reference.
  * @param start Where the search begins.
  * @param chs The characters; may be null when the length is 0.
  * @param length Their number, or -1 when a zero ends them.
@@ -259,6 +280,7 @@ KO_API KoInt koStringFindChars( KoString s, KoInt start, const KoChar *chs, KoIn
  * Reads a number at the start of a range: an optional minus sign, then as many digits of the base as there are, letters
  * in any case.
  *
+ * @param s shared, the caller keeps its reference.
  * @param offset Where the range begins.
  * @param length Its length, or -1 for up to the end.
  * @param base 2 to 36.
@@ -277,6 +299,8 @@ KO_API KoBool koStringScanInt( KoString s, KoInt offset, KoInt length, KoInt bas
 /**
  * Splits a string at each place where a character stands.
  *
+ * @param s shared, the caller keeps its reference.
+ * @param ch The delimiter.
  * @param maximum The largest number of parts, the last of which keeps its delimiters; -1 for no limit.
  * @return new reference: a vector of at least one string. Parts may be empty.
  * @pre s
@@ -287,6 +311,7 @@ KO_API KoVector koStringSplitChar( KoString s, KoChar ch, KoInt maximum );
 /**
  * Splits a string at each place where characters stand.
  *
+ * @param s shared, the caller keeps its reference.
  * @param chs The characters; may be null when the length is 0. No characters split nothing.
  * @param length Their number, or -1 when a zero ends them.
  * @param maximum The largest number of parts, the last of which keeps its delimiters; -1 for no limit.
@@ -301,13 +326,14 @@ KO_API KoVector koStringSplitChars( KoString s, const KoChar *chs, KoInt length,
 /** @} */
 
 /** @name Changing
- * `s` is the address of the caller's handle, which may be replaced. Appending many times takes time that is linear in
+ * A string that is not unique is copied first. Appending many times takes time that is linear in
  * what is appended. What is appended may be, or may lie inside, the string itself.
  * @{ */
 
 /**
  * Appends a string.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @param other shared, the caller keeps its reference.
  * @pre s
  * @pre *s
@@ -318,6 +344,8 @@ KO_API void koStringAppend( KoString *s, KoString other );
 /**
  * Appends a character.
  *
+ * @param s address of the caller's handle, which may be replaced.
+ * @param ch The character.
  * @pre s
  * @pre *s
  */
@@ -326,6 +354,7 @@ KO_API void koStringAppendChar( KoString *s, KoChar ch );
 /**
  * Appends characters.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @param chs The characters; may be null when the length is 0.
  * @param length Their number, or -1 when a zero ends them.
  * @pre s
@@ -338,6 +367,7 @@ KO_API void koStringAppendChars( KoString *s, const KoChar *chs, KoInt length );
 /**
  * Appends the characters of a UTF-8 text, as koStringCreateFromCstr takes it.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @param chs The text; may be null when the length is 0.
  * @param length Its length in bytes, or -1.
  * @pre s
@@ -350,6 +380,7 @@ KO_API void koStringAppendCstr( KoString *s, const char *chs, KoInt length );
 /**
  * Appends a text by a format, as koStringCreateFromFormatCstr makes it.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @param format UTF-8 text; may be null when the length is 0.
  * @param length Its length in bytes, or -1.
  * @pre s
@@ -362,7 +393,9 @@ KO_API void koStringAppendFormatCstr( KoString *s, const char *format, KoInt len
 /**
  * Appends a character, unless the string is empty, and then a string.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @param other shared, the caller keeps its reference.
+ * @param delimiter The character between the two.
  * @pre s
  * @pre *s
  * @pre other
@@ -372,6 +405,9 @@ KO_API void koStringDelimitedAppendCharDelimiter( KoString *s, KoString other, K
 /**
  * Replaces a character.
  *
+ * @param s address of the caller's handle, which may be replaced.
+ * @param index Which character, from 0.
+ * @param ch The new character.
  * @pre s
  * @pre *s
  * @pre index >= 0 && index < koStringLength( *s )
@@ -382,6 +418,7 @@ KO_API void koStringSetCharAt( KoString *s, KoInt index, KoChar ch );
  * Maps each character to lower case: the simple, one-to-one mappings of the Unicode Character Database, whatever the
  * locale.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @pre s
  * @pre *s
  */
@@ -390,6 +427,7 @@ KO_API void koStringToLower( KoString *s );
 /**
  * Maps each character to upper case, as koStringToLower does to lower case: U+00DF stays as it is.
  *
+ * @param s address of the caller's handle, which may be replaced.
  * @pre s
  * @pre *s
  */
@@ -418,6 +456,7 @@ KO_API const KoChar *ko___UnicodeUpperCaseDbLookup( KoChar ch, KoInt *count );
 /**
  * A string with the digits of a number.
  *
+ * @param value The number.
  * @param base 2 to 36.
  * @param width The least number of digits. What is missing is made up by blanks in front of the text, or by zeros behind
  * a minus sign.

@@ -53,11 +53,13 @@ private:
         chs = block = grown;
     }
 
-    KoChar here[256];
+    static constexpr KoInt roomHere = 256;
+
+    KoChar here[roomHere];
     KoChar *block = nullptr;
     KoChar *chs = here;
     KoInt length = 0;
-    KoInt capacity = std::size( here );
+    KoInt capacity = roomHere;
 };
 
 } // namespace tolmo

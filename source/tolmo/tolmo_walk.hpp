@@ -5,6 +5,7 @@
 #include <tolmo/tolmo_char.hpp>
 
 #include <runtime/ko_inner.hpp>
+#include <tolmo/tolmo_char.hpp>
 
 namespace tolmo {
 
@@ -46,9 +47,9 @@ struct Text {
  *     Walk w( chs, length );
  *     return w.Taken( w.Need( skip::Token ) && w.Need( skip::Slash ) && w.Need( skip::Token ) );
  *
- * An element is a skip function: it gets the characters from the present place on, and says how many belong to it. What is
- * not there takes nothing, so that alternatives are `w.Need( A ) || w.Need( B )`, and an option that must be finished once
- * it has begun is `( !w.Need( Colon ) || w.Need( Port ) )`.
+ * An element is a skip function: it gets the characters from the present place on, and says how many belong to it. What
+ * is not there takes nothing, so that alternatives are `w.Need( A ) || w.Need( B )`, and an option that must be finished
+ * once it has begun is `( !w.Need( Colon ) || w.Need( Port ) )`.
  */
 class Walk {
 public:
@@ -56,8 +57,8 @@ public:
     explicit Walk( Text whole ) : text( whole ) {}
 
     /**
-     * Takes an element that has to be there. `arguments` go to the skip function behind the text. Always inline, because
-     * only there the skip function is known, and inline as well.
+     * Takes an element that has to be there. `arguments` go to the skip function behind the text. Always inline: so the
+     * skip function is known to the compiler, and can be inline as well.
      */
     template <class Skip, class... Arguments>
     [[gnu::always_inline]] bool Need( Skip skip, Arguments... arguments )

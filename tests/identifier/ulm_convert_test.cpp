@@ -230,7 +230,7 @@ TEST_F( UlmConvert, RefusesWhatIsNoIdentifier )
 
 TEST_F( UlmConvert, NothingToConvertIsTheSameString )
 {
-    for ( const char *const text : { "sip:alice@example.com", "sip:a@XN--A", "tel:+1", "sip:%23%7F@a" } ) {
+    for ( const char *const text : { "sip:alice@example.com", "sip:a@[::1]", "tel:+1", "sip:%23%7F@a" } ) {
         const auto s = Str( text );
         const auto iri = KoRef<KoString>::Adopt( ulmTryConvertFromUri( s.Get() ) );
         const auto uri = KoRef<KoString>::Adopt( ulmTryConvertToUri( s.Get() ) );

@@ -345,6 +345,24 @@ TEST_F( DictTest, AHundredThousandKeys )
     EXPECT_EQ( Get( d, std::to_string( count - 1001 ) ), "(null)" );
 }
 
+// So that a deletion in the middle is linear in what there is, and not in what there was.
+TEST_F( DictTest, AShrunkDictionaryMovesToASmallerBlock )
+{
+    const Pairs pairs = Many( 1000 );
+    Dict d = Of( pairs );
+    const KoDict large = d.Get();
+    size_t length = pairs.size();
+    while ( length > 400 ) {
+        Del( d, pairs[--length].first );
+    }
+    EXPECT_EQ( d.Get(), large );
+    while ( length > 200 ) {
+        Del( d, pairs[--length].first );
+    }
+    EXPECT_NE( d.Get(), large );
+    EXPECT_EQ( All( d ), Pairs( pairs.begin(), pairs.begin() + 200 ) );
+}
+
 // A thread sanitizer would see a reader that writes, such as one that makes an index.
 TEST_F( DictTest, ThreadsReadOneDictionary )
 {

@@ -10,6 +10,7 @@ constexpr const char *path = "source/runtime/ko_module.cpp";
 
 std::string events;
 bool baseStarts = true;
+bool otherStarts = true;
 bool topStarts = true;
 
 /** A module that writes down what happens to it. */
@@ -28,7 +29,7 @@ bool topStarts = true;
 
 TEST_MODULE( base, "base", "", baseStarts )
 TEST_MODULE( middle, "middle", "base", true )
-TEST_MODULE( other, "other", "  base ko ", true )
+TEST_MODULE( other, "other", "  base ko ", otherStarts )
 TEST_MODULE( top, "top", "middle other base", topStarts )
 TEST_MODULE( lost, "lost", "base nobody", true )
 
@@ -42,7 +43,7 @@ protected:
             ko___ModuleRegister( module );
         }
         events.clear();
-        baseStarts = topStarts = true;
+        baseStarts = otherStarts = topStarts = true;
     }
 };
 
@@ -102,6 +103,11 @@ TEST_F( ModuleTest, AFailedStartLeavesNothingStarted )
     EXPECT_EQ( events, "+base +middle +other +top -other -middle -base " );
     events.clear();
     topStarts = true;
+    otherStarts = false;
+    EXPECT_EQ( koModuleStart( &top ), KO_FALSE ) << "what was needed before the one that fails is stopped";
+    EXPECT_EQ( events, "+base +middle +other -middle -base " );
+    events.clear();
+    otherStarts = true;
     baseStarts = false;
     EXPECT_EQ( koModuleStart( &top ), KO_FALSE );
     EXPECT_EQ( events, "+base " );

@@ -1,13 +1,13 @@
 /* The headers CSeq and RAck. */
-#include "tolmo/tolmo_header_party_test.h"
+#include "tolmo_header_party_test.h"
 
 namespace {
 
 using test::Own;
 using test::Str;
 
-const test::HeaderType<TolmoHeaderCseq> cseq = TEST_HEADER( Cseq, Cseq, "cseq", "CSEQ", "Cseq" );
-const test::HeaderType<TolmoHeaderRack> rack = TEST_HEADER( Rack, Rack, "rack", "RACK", "Rack" );
+const test::HeaderType<TolmoHeaderCseq> cseq = TEST_HEADER( Cseq, "cseq", "Cseq" );
+const test::HeaderType<TolmoHeaderRack> rack = TEST_HEADER( Rack, "rack", "Rack" );
 
 constexpr char cseqOk[] = "tolmoCseqOk( cseq )";
 constexpr char methodOk[] = "tolmoMethodOk( method )";
@@ -15,10 +15,10 @@ constexpr char responseNumOk[] = "tolmoResponseNumOk( responseNum )";
 
 class CseqRack : public test::TolmoFixture {};
 
-TEST_F( CseqRack, Contract )
+TEST_F( CseqRack, SingleValue )
 {
-    test::ExpectSingleValueContract( cseq, "1 INVITE", "INVITE" );
-    test::ExpectSingleValueContract( rack, "1 2 INVITE", "1 INVITE" );
+    test::ExpectSingleValue( cseq, "1 INVITE", "INVITE" );
+    test::ExpectSingleValue( rack, "1 2 INVITE", "1 INVITE" );
 }
 
 const test::Row cseqRows[] = {
@@ -120,7 +120,7 @@ TEST_F( CseqRack, CseqFields )
                                    tolmoHeaderCseqSetMethodWcstr( h, prack, -1 );
                                } } } );
 
-    const std::string path( cseq.path );
+    const std::string &path = cseq.path;
     const auto bad = Str( "a b" );
     EXPECT_ABORT( tolmoHeaderCseqCreate( -1, bad.Get() ), path, cseqOk );
     EXPECT_ABORT( tolmoHeaderCseqCreate( 2147483648, method.Get() ), path, cseqOk );
@@ -155,7 +155,7 @@ TEST_F( CseqRack, RackFields )
                               { "1 0 INVITE", []( H *h ) { tolmoHeaderRackSetCseq( h, 0 ); } },
                               { "1 2 ack", []( H *h ) { tolmoHeaderRackSetMethod( h, Str( "ack" ).Get() ); } } } );
 
-    const std::string path( rack.path );
+    const std::string &path = rack.path;
     const auto bad = Str( "a b" );
     EXPECT_ABORT( tolmoHeaderRackCreate( 0, -1, bad.Get() ), path, responseNumOk );
     EXPECT_ABORT( tolmoHeaderRackCreate( 4294967296, 1, method.Get() ), path, responseNumOk );
@@ -199,12 +199,12 @@ TEST_F( CseqRack, OrderOfRack )
     EXPECT_EQ( order( create( 1, 1, method.Get() ), create( 1, 2, method.Get() ) ), -1 );
     EXPECT_EQ( order( create( 1, 1, same.Get() ), create( 1, 2, method.Get() ) ), -1 );
 
-    const auto line = test::Raw( "RAck", { Str( "1 2 INVITE" ).Get() } );
+    const auto line = test::RawHeader( "RAck", { "1 2 INVITE" } );
     const auto hdr = Own( tolmoHeaderRackTryDecode( line.Get() ) );
     EXPECT_NE( order( hdr, Own( tolmoHeaderRackTryDecode( line.Get() ) ) ), 0 );
     EXPECT_EQ( order( hdr, Own( tolmoHeaderRackCreateFrom( hdr.Get() ) ) ), 0 );
     EXPECT_NE( order( hdr, Own( tolmoHeaderRackTryRestore( Own( tolmoHeaderRackStore( hdr.Get() ) ).Get() ) ) ), 0 );
-    const auto msg = test::Message( "RAck: 1 2 INVITE\r\n" );
+    const auto msg = test::Received( "RAck: 1 2 INVITE\r\n" );
     EXPECT_NE( order( Own( tolmoHeaderRackTryDecodeFromMessage( msg.Get() ) ),
                       Own( tolmoHeaderRackTryDecodeFromMessage( msg.Get() ) ) ),
                0 );

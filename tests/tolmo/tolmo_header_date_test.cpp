@@ -1,11 +1,11 @@
 /* The header Date. */
-#include "tolmo/tolmo_header_party_test.h"
+#include "tolmo_header_party_test.h"
 
 namespace {
 
 using test::Own;
 
-const test::HeaderType<TolmoHeaderDate> date = TEST_HEADER( Date, Date, "date", "DATE", "Date" );
+const test::HeaderType<TolmoHeaderDate> date = TEST_HEADER( Date, "date", "Date" );
 
 class Date : public test::TolmoFixture {};
 
@@ -21,9 +21,9 @@ KoRef<KoTime> Time( KoInt year, KoInt month, KoInt day, KoInt hour, KoInt minute
     return tm;
 }
 
-TEST_F( Date, Contract )
+TEST_F( Date, SingleValue )
 {
-    test::ExpectSingleValueContract( date, "Thu, 21 Feb 2002 13:02:03 GMT", "Fri, 21 Feb 2002 13:02:03 GMT" );
+    test::ExpectSingleValue( date, "Thu, 21 Feb 2002 13:02:03 GMT", "Fri, 21 Feb 2002 13:02:03 GMT" );
 }
 
 // Lines that decode go out as they came in.
@@ -138,7 +138,7 @@ TEST_F( Date, Fields )
                                    tolmoHeaderDateSetTime( h, Own( tolmoHeaderDateTime( *h ) ).Get() );
                                } } } );
 
-    const std::string path( date.path );
+    const std::string &path = date.path;
     EXPECT_ABORT( tolmoHeaderDateCreate( nullptr ), path, "tm" );
     EXPECT_ABORT( tolmoHeaderDateTime( nullptr ), path, "hdr" );
     EXPECT_HANDLE_ABORTS( date, tolmoHeaderDateSetTime, nullptr );

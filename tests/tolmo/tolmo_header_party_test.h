@@ -2,7 +2,7 @@
 #ifndef TOLMO_HEADER_PARTY_TEST_H
 #define TOLMO_HEADER_PARTY_TEST_H
 
-#include "tolmo/tolmo_header_test.h"
+#include "tolmo_header_test.h"
 
 #include <random>
 
@@ -21,9 +21,9 @@ struct PartyType : HeaderType<H> {
     void ( *setGenericParams )( H *, TolmoGenericParams );
 };
 
-#define TEST_PARTY( Type, unit, SORT, headerName )                                                                     \
+#define TEST_PARTY( Type, unit, headerName )                                                                           \
     {                                                                                                                  \
-        TEST_HEADER( Type, Type, unit, SORT, headerName ), tolmoHeader##Type##Create, tolmoHeader##Type##Iri,          \
+        TEST_HEADER( Type, unit, headerName ), tolmoHeader##Type##Create, tolmoHeader##Type##Iri,                      \
             tolmoHeader##Type##SetIri, tolmoHeader##Type##HasDisplayName, tolmoHeader##Type##DisplayName,              \
             tolmoHeader##Type##SetDisplayName, tolmoHeader##Type##DelDisplayName, tolmoHeader##Type##GenericParams,    \
             tolmoHeader##Type##SetGenericParams                                                                        \
@@ -94,10 +94,16 @@ const Row partyRows[] = {
     { "<sip:a>;x,y", null },
 };
 
+/** The parameters of a text such as `;a=b;c`. */
+inline KoRef<TolmoGenericParams> Params( std::string_view text )
+{
+    const Exact chs( text );
+    return Own( tolmo___GenericParamsTryDecode( chs.Chars(), chs.Length() ) );
+}
+
 template <class H>
 void ExpectPartyFields( const PartyType<H> &type )
 {
-    const std::string path( type.path );
 
     auto hdr = Own( type.create( Str( "sip:a@b" ).Get() ) );
     EXPECT_EQ( Encode( type, hdr ), "<sip:a@b>" );
@@ -137,19 +143,19 @@ void ExpectPartyFields( const PartyType<H> &type )
     const auto bad = Str( "a\r" );
     const auto empty = Str( "" );
     EXPECT_ABORT( type.create( nullptr ), "source/tolmo/tolmo_iri.cpp", "iri" );
-    EXPECT_ABORT( type.create( bad.Get() ), path, "tolmoIriOk( iri )" );
-    EXPECT_ABORT( type.create( empty.Get() ), path, "tolmoIriOk( iri )" );
-    EXPECT_ABORT( type.iri( nullptr ), path, "hdr" );
+    EXPECT_ABORT( type.create( bad.Get() ), type.path, "tolmoIriOk( iri )" );
+    EXPECT_ABORT( type.create( empty.Get() ), type.path, "tolmoIriOk( iri )" );
+    EXPECT_ABORT( type.iri( nullptr ), type.path, "hdr" );
     EXPECT_HANDLE_ABORTS( type, type.setIri, nullptr );
-    EXPECT_ABORT( type.setIri( hdr.Address(), bad.Get() ), path, "tolmoIriOk( iri )" );
-    EXPECT_ABORT( type.hasDisplayName( nullptr ), path, "hdr" );
-    EXPECT_ABORT( type.displayName( nullptr ), path, "hdr" );
+    EXPECT_ABORT( type.setIri( hdr.Address(), bad.Get() ), type.path, "tolmoIriOk( iri )" );
+    EXPECT_ABORT( type.hasDisplayName( nullptr ), type.path, "hdr" );
+    EXPECT_ABORT( type.displayName( nullptr ), type.path, "hdr" );
     EXPECT_HANDLE_ABORTS( type, type.setDisplayName, nullptr );
-    EXPECT_ABORT( type.setDisplayName( hdr.Address(), bad.Get() ), path, "tolmoDisplayNameOk( displayName )" );
+    EXPECT_ABORT( type.setDisplayName( hdr.Address(), bad.Get() ), type.path, "tolmoDisplayNameOk( displayName )" );
     EXPECT_HANDLE_ABORTS( type, type.delDisplayName );
-    EXPECT_ABORT( type.genericParams( nullptr ), path, "hdr" );
+    EXPECT_ABORT( type.genericParams( nullptr ), type.path, "hdr" );
     EXPECT_HANDLE_ABORTS( type, type.setGenericParams, nullptr );
-    EXPECT_ABORT( type.setGenericParams( hdr.Address(), nullptr ), path, "genericParams" );
+    EXPECT_ABORT( type.setGenericParams( hdr.Address(), nullptr ), type.path, "genericParams" );
 }
 
 /** Each line is less than all that follow it. */
