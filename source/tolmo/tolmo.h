@@ -4,8 +4,12 @@
 
 #include <identifier/ulm.h>
 #include <runtime/ko.h>
+#include <tolmo/tolmo_accept.h>
+#include <tolmo/tolmo_accept_encoding.h>
+#include <tolmo/tolmo_alert_info.h>
 #include <tolmo/tolmo_branch.h>
 #include <tolmo/tolmo_call_id.h>
+#include <tolmo/tolmo_call_info.h>
 #include <tolmo/tolmo_char.h>
 #include <tolmo/tolmo_contact.h>
 #include <tolmo/tolmo_content_coding.h>
@@ -13,6 +17,7 @@
 #include <tolmo/tolmo_delta_seconds.h>
 #include <tolmo/tolmo_display_name.h>
 #include <tolmo/tolmo_disposition_type.h>
+#include <tolmo/tolmo_diversion.h>
 #include <tolmo/tolmo_diversion_counter.h>
 #include <tolmo/tolmo_diversion_limit.h>
 #include <tolmo/tolmo_diversion_privacy.h>
@@ -20,12 +25,20 @@
 #include <tolmo/tolmo_diversion_screen.h>
 #include <tolmo/tolmo_em_param.h>
 #include <tolmo/tolmo_epid.h>
+#include <tolmo/tolmo_error_info.h>
 #include <tolmo/tolmo_event_reason_value.h>
 #include <tolmo/tolmo_event_type.h>
 #include <tolmo/tolmo_generic_param.h>
 #include <tolmo/tolmo_generic_params.h>
 #include <tolmo/tolmo_handling.h>
+#include <tolmo/tolmo_header_accept.h>
+#include <tolmo/tolmo_header_accept_encoding.h>
+#include <tolmo/tolmo_header_alert_info.h>
+#include <tolmo/tolmo_header_call_info.h>
 #include <tolmo/tolmo_header_contact.h>
+#include <tolmo/tolmo_header_diversion.h>
+#include <tolmo/tolmo_header_error_info.h>
+#include <tolmo/tolmo_header_history_info.h>
 #include <tolmo/tolmo_header_max_forwards.h>
 #include <tolmo/tolmo_header_p_asserted_identity.h>
 #include <tolmo/tolmo_header_p_preferred_identity.h>
@@ -34,6 +47,7 @@
 #include <tolmo/tolmo_header_service_route.h>
 #include <tolmo/tolmo_header_subject.h>
 #include <tolmo/tolmo_header_via.h>
+#include <tolmo/tolmo_history_info.h>
 #include <tolmo/tolmo_history_info_index.h>
 #include <tolmo/tolmo_host.h>
 #include <tolmo/tolmo_identity_value.h>
