@@ -86,6 +86,16 @@ struct Row {
     Quirk quirk = none;
 };
 
+/** The first second of 1970. */
+KoRef<KoTime> ATime()
+{
+    auto tm = KoRef<KoTime>::Adopt( koTimeCreate() );
+    koTimeSetYear( tm.Address(), 1970 );
+    koTimeSetMonth( tm.Address(), 1 );
+    koTimeSetDay( tm.Address(), 1 );
+    return tm;
+}
+
 /** ROW( Type, a call that makes one, the lines it prints, lines that decode, the lines that these print, NoLine ) */
 #define ROW( Type, create, ... )                                                                                       \
     {                                                                                                                  \
@@ -103,17 +113,26 @@ const std::vector<Row> &Rows()
         ROW( CallId, tolmoHeaderCallIdCreate( Str( "a@b" ).Get() ), { "a@b" }, { "\x01", "1{}@x" }, { "1{}@x" }, isNull ),
         ROW( Contact, tolmoHeaderContactCreate(), {}, { "<sip:a> , \"b\" <sip:b>;q=1", "sip:c" }, { "<sip:a> ", "\"b\" <sip:b>;q=1", "sip:c" }, isNull ),
         ROW( ContentEncoding, tolmoHeaderContentEncodingCreate(), {}, {}, {}, isEmpty ),
+        ROW( Cseq, tolmoHeaderCseqCreate( 1, Str( "Ack" ).Get() ), { "1 Ack" }, { "1", "02 \t INVITE" }, { "2 INVITE" }, isNull ),
+        ROW( Date, tolmoHeaderDateCreate( ATime().Get() ), { "Thu, 01 Jan 1970 00:00:00 GMT" }, { "now", "Thu, 21 Feb 2002 13:02:03 GMT" }, { "Thu, 21 Feb 2002 13:02:03 GMT" }, isNull ),
         ROW( Expires, tolmoHeaderExpiresCreate( 60 ), { "60" }, { "soon", "0060" }, { "60" }, isNull ),
+        ROW( From, tolmoHeaderFromCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;tag=1;y" }, { "\"B\" <sip:b>;tag=1;x;y" }, isNull ),
         ROW( InReplyTo, tolmoHeaderInReplyToCreate(), {}, { "a@b, c", "a@b" }, { "a@b,c" }, isNull ),
         ROW( MaxForwards, tolmoHeaderMaxForwardsCreate( 70 ), { "70" }, { "", "069" }, { "69" }, isNull ),
         ROW( MinExpires, tolmoHeaderMinExpiresCreate( 60 ), { "60" }, { "soon", "0060" }, { "60" }, isNull ),
         ROW( Organization, tolmoHeaderOrganizationCreate( Str( " A \t B" ).Get() ), { "A B" }, { "\x01", "  C\t D " }, { "C D" }, isNull ),
         ROW( PAssertedIdentity, tolmoHeaderPAssertedIdentityCreate(), {}, { "<sip:a>, sip:b", "c <tel:1>" }, { "<sip:a>", "sip:b", "c <tel:1>" }, isNull ),
+        ROW( PCalledPartyId, tolmoHeaderPCalledPartyIdCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;y" }, { "\"B\" <sip:b>;x;y" }, isNull ),
         ROW( PEarlyMedia, tolmoHeaderPEarlyMediaCreate(), {}, { "Supported , gated" }, { "Supported", "gated" }, isEmpty ),
         ROW( PPreferredIdentity, tolmoHeaderPPreferredIdentityCreate(), {}, { "<sip:a>, sip:b", "c <tel:1>" }, { "<sip:a>", "sip:b", "c <tel:1>" }, isNull ),
         ROW( Privacy, tolmoHeaderPrivacyCreate(), {}, { "ID ; header" }, { "id;header" }, isNull ),
         ROW( ProxyRequire, tolmoHeaderProxyRequireCreate(), {}, { "Foo, bar", "foo" }, { "foo,bar" }, isNull ),
+        ROW( Rack, tolmoHeaderRackCreate( 1, 2, Str( "Ack" ).Get() ), { "1 2 Ack" }, { "1", "02 \t 3 INVITE" }, { "2 3 INVITE" }, isNull, restoredDiffers ),
         ROW( RecordRoute, tolmoHeaderRecordRouteCreate(), {}, { "<sip:a;lr>,<sip:b>", "c <sip:d>;x" }, { "<sip:a;lr>", "<sip:b>", "c <sip:d>;x" }, isNull ),
+        ROW( ReferTo, tolmoHeaderReferToCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;y" }, { "\"B\" <sip:b>;x;y" }, isNull ),
+        ROW( ReferredBy, tolmoHeaderReferredByCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;cid=\"a@b\";y" }, { "\"B\" <sip:b>;cid=\"a@b\";x;y" }, isNull ),
+        ROW( RemotePartyId, tolmoHeaderRemotePartyIdCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;y" }, { "\"B\" <sip:b>;x;y" }, isNull ),
+        ROW( ReplyTo, tolmoHeaderReplyToCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;y" }, { "\"B\" <sip:b>;x;y" }, isNull ),
         ROW( Require, tolmoHeaderRequireCreate(), {}, { "Foo, bar", "foo" }, { "foo,bar" }, isNull ),
         ROW( ResourcePriority, tolmoHeaderResourcePriorityCreate(), {}, { "q735.1, wps.0" }, { "q735.1", "wps.0" }, isEmpty ),
         ROW( Route, tolmoHeaderRouteCreate(), {}, { "<sip:a;lr>,<sip:b>", "c <sip:d>;x" }, { "<sip:a;lr>", "<sip:b>", "c <sip:d>;x" }, isNull ),
@@ -123,6 +142,7 @@ const std::vector<Row> &Rows()
         ROW( Subject, tolmoHeaderSubjectCreate( Str( " A \t B" ).Get() ), { "A B" }, { "\x01", "  C\t D " }, { "C D" }, isNull ),
         ROW( Supported, tolmoHeaderSupportedCreate(), {}, { "100rel", "Path" }, { "100rel,path" }, isNull ),
         ROW( Timestamp, tolmoHeaderTimestampCreate( Str( "54" ).Get() ), { "54" }, { "x", "54.1 0.2" }, { "54.1 0.2" }, isNull ),
+        ROW( To, tolmoHeaderToCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;tag=1;y" }, { "\"B\" <sip:b>;tag=1;x;y" }, isNull ),
         ROW( Unsupported, tolmoHeaderUnsupportedCreate(), {}, { "Foo, bar", "foo" }, { "foo,bar" }, isNull ),
         ROW( UserAgent, tolmoHeaderUserAgentCreate( Str( "A/1 (b)" ).Get() ), { "A/1 (b)" }, { "/", "C / 2" }, { "C / 2" }, isNull ),
         ROW( Via, tolmoHeaderViaCreate(), {}, { "SIP/2.0/UDP a;x , SIP/2.0/TCP b", "SIP/2.0/TLS c" }, { "SIP/2.0/UDP a;x", "SIP/2.0/TCP b", "SIP/2.0/TLS c" }, isEmpty ),
