@@ -189,9 +189,11 @@ void tolmo::AddParam( Builder &text, TolmoGenericParam param )
     case TOLMO_GENERIC_PARAM_VALUE_TYPE_HOST:
         text.Take( tolmo___HostEncode( param->value ) );
         break;
-    default: // TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING: no other type gets into a parameter
+    case TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING:
         text.Take( tolmo___QuotableStringEncode( param->value ) );
         break;
+    default: // a type that has been added to the list of types, and not here
+        ko___Abort( "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented", __FILE__, __LINE__, "param->type" );
     }
 }
 

@@ -120,9 +120,10 @@ TolmoVia tolmoViaCreateWithPort( TolmoVersion version, KoString transport, KoStr
     KO_REQUIRE( tolmoTransportOk( transport ) );
     KO_REQUIRE( tolmoHostOk( host ) );
     KO_REQUIRE( tolmoPortOk( port ) );
-    const TolmoVia via = tolmoViaCreate( version, transport, host );
-    via->port = port;
-    return via;
+    auto normal = tolmo::Adopt( tolmoTransportNormalize( transport ) );
+    auto via = Create( tolmo::Share( version ), std::move( normal ), tolmo::Share( host ) );
+    via.Get()->port = port;
+    return via.Leak();
 }
 
 TolmoVersion tolmoViaVersion( TolmoVia via )
