@@ -102,8 +102,8 @@ TEST_F( GenericParams, StandardOperations )
     EXPECT_FALSE( tolmoGenericParamsEquals( nullptr, params.Get() ) );
 
     constexpr char from[] = "!obj || koObjSort(obj)==&tolmo___sort_TOLMO_GENERIC_PARAMS";
-    const KoObj other =
-        tolmoGenericParamObj( params.Get() ? Own( tolmoGenericParamsParamAt( params.Get(), 0 ) ).Get() : nullptr );
+    const Param param = One( "a" );
+    const KoObj other = tolmoGenericParamObj( param.Get() );
     const KoObj obj = tolmoGenericParamsObj( params.Get() );
     EXPECT_ABORT_MESSAGE( tolmoGenericParamsFrom( other ), "stdfunc from", path, from );
     EXPECT_ABORT_MESSAGE( tolmoGenericParamsRetain( nullptr ), "stdfunc retain", path, "obj" );
