@@ -181,6 +181,9 @@ void tolmo::AddParam( Builder &text, TolmoGenericParam param )
     if ( !param->value ) {
         return;
     }
+    KO_REQUIRE_MESSAGE( TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type ),
+                        "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
+                        "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
     text.Add( '=' );
     switch ( param->type ) {
     case TOLMO_GENERIC_PARAM_VALUE_TYPE_TOKEN:
@@ -189,11 +192,9 @@ void tolmo::AddParam( Builder &text, TolmoGenericParam param )
     case TOLMO_GENERIC_PARAM_VALUE_TYPE_HOST:
         text.Take( tolmo___HostEncode( param->value ) );
         break;
-    case TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING:
+    default: // TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING
         text.Take( tolmo___QuotableStringEncode( param->value ) );
         break;
-    default: // a type that has been added to the list of types, and not here
-        ko___Abort( "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented", __FILE__, __LINE__, "param->type" );
     }
 }
 

@@ -395,9 +395,9 @@ TEST_F( GenericParam, Encode )
     const Param param = Create( "a", token, "b" );
     param.Get()->type = 3; // no operation stores such a type
     EXPECT_ABORT_MESSAGE( tolmo___GenericParamEncode( param.Get() ), "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
-                          path, "param->type" );
+                          path, "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
     EXPECT_ABORT_MESSAGE( tolmoGenericParamToString( param.Get() ), "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
-                          path, "param->type" );
+                          path, "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
 }
 
 TEST_F( GenericParam, TryDecode )
