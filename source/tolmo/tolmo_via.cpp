@@ -370,16 +370,16 @@ KoString tolmo___ViaEncode( TolmoVia via )
     tolmo::Builder text;
     text.Take( tolmo___VersionEncode( via->version ) );
     text.Add( '/' );
-    text.Take( tolmo::Raised( via->transport ) );
+    text.AddRaised( via->transport );
     text.Add( ' ' );
     text.Take( tolmo___HostEncode( via->host ) );
     if ( via->port != -1 ) {
         text.Add( ':' );
-        text.Take( tolmo___PortEncode( via->port ) );
+        text.AddNumber( via->port );
     }
     if ( via->ttl != -1 ) {
         tolmo::AddParamName( text, kosTtl );
-        text.Take( tolmo___TtlEncode( via->ttl ) );
+        text.AddNumber( via->ttl );
     }
     if ( via->maddr ) {
         tolmo::AddParamName( text, kosMaddr );
@@ -394,7 +394,7 @@ KoString tolmo___ViaEncode( TolmoVia via )
         text.Add( kosRport );
     } else if ( via->rportNumeric != -1 ) {
         tolmo::AddParamName( text, kosRport );
-        text.Take( tolmo___PortEncode( via->rportNumeric ) );
+        text.AddNumber( via->rportNumeric );
     }
     if ( via->branch ) {
         tolmo::AddParamName( text, kosBranch );
