@@ -31,6 +31,26 @@ TEST_F( Builder, EveryKindOfText )
     EXPECT_EQ( test::Take( text.Finish() ), "a\U0001F600bcd\u00E9efg" );
 }
 
+TEST_F( Builder, AddRaised )
+{
+    tolmo::Builder text;
+    text.AddRaised( Str( "" ).Get() );
+    text.AddRaised( Str( "aZz`{@[-.!%*_+'~09" ).Get() );
+    text.AddRaised( Str( "\u00E9" ).Get() ); // ASCII letters only
+    EXPECT_EQ( test::Take( text.Finish() ), "AZZ`{@[-.!%*_+'~09\u00E9" );
+}
+
+TEST_F( Builder, AddNumber )
+{
+    for ( const KoInt number : { KoInt{ 0 }, KoInt{ 7 }, KoInt{ 10 }, KoInt{ 5060 }, INT64_MAX } ) {
+        tolmo::Builder text;
+        text.Add( '<' );
+        text.AddNumber( number );
+        text.Add( '>' );
+        EXPECT_EQ( test::Take( text.Finish() ), "<" + std::to_string( number ) + ">" );
+    }
+}
+
 // The result is a string of its own: more can be added, and finished again.
 TEST_F( Builder, FinishTwice )
 {
