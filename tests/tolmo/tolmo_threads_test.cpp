@@ -35,7 +35,7 @@ void InThreads( const std::function<void( int )> &run )
 
 std::string Read( const std::string &name )
 {
-    std::ifstream file( std::string( TEST_CORPUS ) + "/wire/" + name, std::ios::binary );
+    std::ifstream file( TEST_CORPUS "/wire/" + name, std::ios::binary );
     return { std::istreambuf_iterator<char>( file ), {} };
 }
 
@@ -162,13 +162,13 @@ TEST_F( Threads, OneMessage )
 {
     const auto msg = Own( tolmoMessageTryDecode( test::Buf( request ).Get() ) );
     ASSERT_TRUE( msg );
-    const std::string before = test::TakeBytes( tolmoMessageEncode( msg.Get() ) );
+    const std::string original = test::TakeBytes( tolmoMessageEncode( msg.Get() ) );
     InThreads( [&]( int i ) {
         for ( int round = 0; round < rounds; ++round ) {
             EXPECT_EQ( Change( msg.Get(), i ), Changed( i ) );
         }
     } );
-    EXPECT_EQ( test::TakeBytes( tolmoMessageEncode( msg.Get() ) ), before );
+    EXPECT_EQ( test::TakeBytes( tolmoMessageEncode( msg.Get() ) ), original );
     EXPECT_EQ( test::Count( msg.Get() ), 1 );
 }
 
