@@ -195,6 +195,13 @@ inline KoInt Utf8Length( const KoChar *chs, KoInt length )
             need += Utf8Length( chs[i + k] );
         }
     }
+    uint32_t any = 0;
+    for ( KoInt k = i; k < length; ++k ) {
+        any |= static_cast<uint32_t>( chs[k] );
+    }
+    if ( any < 0x80 ) {
+        return need + length - i;
+    }
     for ( ; i < length; ++i ) {
         need += Utf8Length( chs[i] );
     }
