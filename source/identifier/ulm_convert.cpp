@@ -206,8 +206,12 @@ void AddUnicodeHost( Text host, Output &out )
 /** The IRI form of an identifier that was read. `same` is the string of the text, or null if there is none. */
 KoString ConvertFromUri( const Iri &iri, Text uri, KoString same )
 {
+    const bool plain = iri.ascii && iri.asciiEscapes;
+    if ( plain && !iri.hyphen ) {
+        return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
+    }
     const Host host( iri, uri.chs );
-    if ( iri.ascii && iri.asciiEscapes && !host.encoded ) {
+    if ( plain && !host.encoded ) {
         return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
     }
     Output out;
