@@ -1,12 +1,12 @@
 /*
  * The family of the typed headers: what all sixty share.
  *
- * A unit tells its fields and its type as every other type does, then its `Create`, its `Encode`, and one function
- * `Decode`, over the last line or over all lines of a raw header. One macro makes the rest of the contract of it:
+ * A unit tells its fields and its type as every other type does, then its name, its `Create`, its `Encode`, and one
+ * function `Decode`, over the last line or over all lines of a raw header. One macro makes the rest of the contract:
  *
- *     TOLMO_HEADER_CONSTANT( MaxForwards, "Max-Forwards" )
+ *     TOLMO_HEADER_NAME( MaxForwards, MaxForwards, "Max-Forwards" )
  *     ... Create, accessors, Encode, Decode ...
- *     TOLMO_HEADER_LAST_LINE( MaxForwards )
+ *     TOLMO_HEADER_OPERATIONS( MaxForwards, MaxForwards )
  */
 #ifndef TOLMO_HEADER_HPP
 #define TOLMO_HEADER_HPP

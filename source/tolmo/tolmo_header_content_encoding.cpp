@@ -3,37 +3,11 @@
 
 #include <runtime/ko_vector.hpp>
 #include <tolmo/tolmo_content_coding.h>
+#include <tolmo/tolmo_joined_header.hpp>
 #include <tolmo/tolmo_token_list.hpp>
 
-struct tolmo___HeaderContentEncoding {
-    ko___Obj head;
-    KoVector items; // the words
-};
-
-namespace {
-
-using AllFields = tolmo::Fields<&tolmo___HeaderContentEncoding::items>;
-static_assert( tolmo::namesAllFields<tolmo___HeaderContentEncoding, AllFields> );
-
-TOLMO_FREE( HeaderContentEncoding, hdr, AllFields )
-TOLMO_COMPARE( HeaderContentEncoding, hdrA, hdrB, AllFields )
-TOLMO_HEADER_TO_STRING( ContentEncoding )
-
-} // namespace
-
-static const ko___Sort tolmo___sort_TOLMO_HEADER_CONTENT_ENCODING =
-    TOLMO_SORT( "TOLMO_HEADER_CONTENT_ENCODING", Free, Compare, ToString );
-TOLMO_STANDARD_OPERATIONS( HeaderContentEncoding, TOLMO_HEADER_CONTENT_ENCODING )
-TOLMO_CREATE_FROM( HeaderContentEncoding, AllFields )
 TOLMO_HEADER_NAME( ContentEncoding, ContentEncoding, "Content-Encoding" )
-
-TolmoHeaderContentEncoding tolmoHeaderContentEncodingCreate( void )
-{
-    auto hdr = tolmo::CreateObject<tolmo___HeaderContentEncoding>( &tolmo___sort_TOLMO_HEADER_CONTENT_ENCODING );
-    hdr.Get()->items = koVectorCreate();
-    return hdr.Leak();
-}
-
+TOLMO_ITEM_LIST_TYPE( ContentEncoding, TOLMO_HEADER_CONTENT_ENCODING )
 TOLMO_TOKEN_LIST_READING( ContentEncoding, ContentCoding )
 
 KoVector tolmoHeaderContentEncodingContentCodingsVector( TolmoHeaderContentEncoding hdr )

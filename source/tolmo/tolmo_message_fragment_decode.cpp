@@ -6,6 +6,8 @@
 #include <tolmo/tolmo_skip.hpp>
 #include <tolmo/tolmo_wide.hpp>
 
+#include <algorithm>
+
 #if defined( __SSE2__ )
 #include <emmintrin.h>
 #endif
@@ -24,9 +26,13 @@ void ForEachLineEnd( const uint8_t *bytes, KoInt from, KoInt length, Take take )
 {
 #if defined( __SSE2__ )
     const __m128i crs = _mm_set1_epi8( cr );
-    for ( ; length - from >= 17; from += 16 ) {
-        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) );
-        auto found = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, crs ) ) );
+    for ( ; length - from > 64; from += 64 ) {
+        uint64_t found = 0;
+        for ( int part = 0; part < 4; ++part ) {
+            const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) + part );
+            const auto mask = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, crs ) ) );
+            found |= uint64_t{ mask } << ( 16 * part );
+        }
         for ( ; found; found &= found - 1 ) {
             const KoInt place = from + std::countr_zero( found );
             if ( bytes[place + 1] == lf && !take( place ) ) {
@@ -40,6 +46,27 @@ void ForEachLineEnd( const uint8_t *bytes, KoInt from, KoInt length, Take take )
             return;
         }
     }
+}
+
+/** Where a byte stands from `from` on, or `length`. Up to 15 bytes behind the text must be readable. */
+KoInt FindByte( const uint8_t *bytes, KoInt from, KoInt length, uint8_t byte )
+{
+#if defined( __SSE2__ )
+    const __m128i wanted = _mm_set1_epi8( static_cast<char>( byte ) );
+    for ( ; from < length; from += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) );
+        const auto found = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, wanted ) ) );
+        if ( found ) {
+            return koIntMin( from + std::countr_zero( found ), length );
+        }
+    }
+    return length;
+#else
+    while ( from < length && bytes[from] != byte ) {
+        ++from;
+    }
+    return from;
+#endif
 }
 
 /** Where the line that goes through `from` ends: at its CR LF, or with the text. */
@@ -113,6 +140,11 @@ bool IsUtf8( const uint8_t *bytes, KoInt length )
 bool IsLws( uint8_t byte )
 {
     return byte == ' ' || byte == '\t';
+}
+
+bool IsToken( const uint8_t *bytes, KoInt length )
+{
+    return std::all_of( bytes, bytes + length, []( uint8_t byte ) { return Is( byte, charToken ); } );
 }
 
 enum class StartLine { none, good, bad };
@@ -215,7 +247,7 @@ public:
     /** The last line of `Content-Length`, or null when there is none. */
     [[nodiscard]] const RawLine *ContentLength() const
     {
-        const KoInt entry = entryOf[contentLengthName];
+        const uint32_t entry = entryOf[contentLengthName];
         return entry ? lines + frag->headers->Entries()[entry - 1].lastLine : nullptr;
     }
 
@@ -223,16 +255,13 @@ private:
     // header-line = name [ LWS ] ":" [ LWS ] [ value ]
     bool TakeHeader( KoInt begin, KoInt end )
     {
-        KoInt at = begin;
-        while ( at < end && Is( text[at], charToken ) ) {
-            ++at;
-        }
-        const KoInt nameLength = at - begin;
-        while ( at < end && IsLws( text[at] ) ) {
-            ++at;
-        }
-        if ( nameLength == 0 || at == end || text[at] != ':' ) {
+        KoInt at = FindByte( text, begin, end, ':' );
+        if ( at == end ) {
             return false;
+        }
+        KoInt nameLength = at - begin;
+        while ( nameLength > 0 && IsLws( text[begin + nameLength - 1] ) ) {
+            --nameLength;
         }
         ++at;
         while ( at < end && IsLws( text[at] ) ) {
@@ -241,21 +270,28 @@ private:
         const KoInt line = count++;
         lines[line] = { .offset = at, .length = end - at, .next = 0 };
         HeaderEntry *const entry = FindOrAppend( begin, nameLength, line );
+        if ( !entry ) {
+            return false;
+        }
         lines[entry->lastLine].next = line; // of a new entry, its own line's, which is not looked at
         entry->lastLine = line;
         return true;
     }
 
+    /** The entry of a name; null when it is none. */
     HeaderEntry *FindOrAppend( KoInt name, KoInt nameLength, KoInt line )
     {
         const NameId known = RecognizeName( text + name, nameLength );
         if ( known != unknownName ) {
-            KoInt &entry = entryOf[known];
+            uint32_t &entry = entryOf[known];
             if ( entry == 0 ) {
                 Append( known, 0, 0, line );
-                entry = frag->headers->count;
+                entry = static_cast<uint32_t>( frag->headers->count );
             }
             return frag->headers->Entries() + entry - 1;
+        }
+        if ( nameLength == 0 || !IsToken( text + name, nameLength ) ) {
+            return nullptr;
         }
         CapitalizeName( text + name, nameLength );
         HeaderEntry *const entry = FindUnknownEntry( frag->headers, text + name, nameLength );
@@ -276,7 +312,7 @@ private:
     RawLine *lines;
     uint8_t *text;
     KoInt count = 0;
-    KoInt entryOf[knownNameCount] = {}; // for a known name, the position of its entry and 1
+    uint32_t entryOf[knownNameCount] = {}; // for a known name, the position of its entry and 1
 };
 
 /** The value of a `Content-Length` line, or -1. */

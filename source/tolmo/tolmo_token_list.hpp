@@ -3,11 +3,11 @@
 #define TOLMO_TOKEN_LIST_HPP
 
 #include <tolmo/tolmo_item_list.hpp>
-#include <tolmo/tolmo_joined_header.hpp>
 
 /*
  * The operations of a token list: a header with a field `items`, a vector of its words. `Item` is the word that names
- * its operations, `item` the name of a word argument. The runtime tests the index.
+ * its operations, `item` the name of a word argument. The runtime tests the index. A member that breaks the pattern
+ * takes the parts that fit.
  */
 
 /** ItemsLength and ItemAt. */
@@ -53,5 +53,13 @@
         tolmo::MakeUnique( hdr, tolmoHeader##Type##CreateFrom );                                                       \
         koVectorAppendString( &( *hdr )->items, item );                                                                \
     }
+
+/** All of them, over a line for each item. */
+#define TOLMO_TOKEN_LIST( Type, Item, item )                                                                           \
+    TOLMO_TOKEN_LIST_READING( Type, Item )                                                                             \
+    TOLMO_TOKEN_LIST_CHANGING( Type, Item, item )                                                                      \
+    TOLMO_ITEM_LIST_DELETING( Type, Item )                                                                             \
+    TOLMO_ITEM_LIST_CLEARING( Type, tolmoHeader##Type##Clear##Item##s )                                                \
+    TOLMO_ITEM_LIST_ENCODING( Type )
 
 #endif

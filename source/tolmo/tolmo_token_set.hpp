@@ -1,15 +1,14 @@
 /*
  * Token sets: headers whose words have neither order nor repetition that means anything.
  *
- * A unit names its words, how it keeps them, and its grammar; the macros below make the operations of that:
+ * A unit names its words, how it keeps and separates them, and its string forms. The name of the words is that of their
+ * validator and of their skip function:
  *
- *     TOLMO_TOKEN_SET_CREATE( Require, TOLMO_HEADER_REQUIRE )
- *     TOLMO_TOKEN_SET_READING( Require, OptionTag )
- *     TOLMO_TOKEN_SET_CHANGING( Require, OptionTag, optionTag, tolmo::Folded )
+ *     TOLMO_HEADER_NAME( Require, Require, "Require" )
+ *     TOLMO_TOKEN_SET_TYPE( Require, TOLMO_HEADER_REQUIRE )
+ *     TOLMO_TOKEN_SET( Require, OptionTag, optionTag, tolmo::Folded, tolmo::skip::Comma, ',' )
  *     TOLMO_TOKEN_SET_CSTR_FORMS( Require, OptionTag )
- *     TOLMO_TOKEN_SET_CODING( Require, tolmo::skip::OptionTag, tolmo::skip::Comma, ',', tolmo::Folded )
- *
- * The words are a dictionary, `words`, each under itself.
+ *     TOLMO_HEADER_OPERATIONS( Require, Require )
  */
 #ifndef TOLMO_TOKEN_SET_HPP
 #define TOLMO_TOKEN_SET_HPP
@@ -52,8 +51,25 @@ bool CutToSet( const Lines &lines, Separator separator, Word word, KoDict &words
 
 } // namespace tolmo
 
-/** Create. */
-#define TOLMO_TOKEN_SET_CREATE( Type, SORT )                                                                           \
+/**
+ * The type of a token set, which has one field: `words`, a dictionary of the words, each under itself. With its sort,
+ * which compares word by word, its standard operations, and tolmoHeaderXCreate, an empty set.
+ */
+#define TOLMO_TOKEN_SET_TYPE( Type, SORT )                                                                             \
+    struct tolmo___Header##Type {                                                                                      \
+        ko___Obj head;                                                                                                 \
+        KoDict words;                                                                                                  \
+    };                                                                                                                 \
+    namespace {                                                                                                        \
+    using AllFields = tolmo::Fields<&tolmo___Header##Type::words>;                                                     \
+    static_assert( tolmo::namesAllFields<tolmo___Header##Type, AllFields> );                                           \
+    TOLMO_FREE( Header##Type, hdr, AllFields )                                                                         \
+    TOLMO_COMPARE( Header##Type, hdrA, hdrB, AllFields )                                                               \
+    TOLMO_HEADER_TO_STRING( Type )                                                                                     \
+    }                                                                                                                  \
+    static const ko___Sort tolmo___sort_##SORT = TOLMO_SORT( #SORT, Free, Compare, ToString );                         \
+    TOLMO_STANDARD_OPERATIONS( Header##Type, SORT )                                                                    \
+    TOLMO_CREATE_FROM( Header##Type, AllFields )                                                                       \
     TolmoHeader##Type tolmoHeader##Type##Create( void )                                                                \
     {                                                                                                                  \
         auto hdr = tolmo::CreateObject<tolmo___Header##Type>( &tolmo___sort_##SORT );                                  \
@@ -61,8 +77,13 @@ bool CutToSet( const Lines &lines, Separator separator, Word word, KoDict &words
         return hdr.Leak();                                                                                             \
     }
 
-/** ItemsLength, ItemAt and ItemsVector. */
-#define TOLMO_TOKEN_SET_READING( Type, Item )                                                                          \
+/**
+ * ItemsLength, ItemAt and ItemsVector; HasItem, SetItem, DelItem, SetItemsVector and ClearItems; Encode and Decode.
+ * `item` is the name of a word argument, `Kept` is how words are kept and looked up, `skipSeparator` and `separator`
+ * are what is read and printed between two of them. The vector's objects count by their text; a text that is no word
+ * ends the process with the set partly built.
+ */
+#define TOLMO_TOKEN_SET( Type, Item, item, Kept, skipSeparator, separator )                                            \
     KoInt tolmoHeader##Type##Item##sLength( TolmoHeader##Type hdr )                                                    \
     {                                                                                                                  \
         KO_REQUIRE( hdr );                                                                                             \
@@ -77,13 +98,7 @@ bool CutToSet( const Lines &lines, Separator separator, Word word, KoDict &words
     {                                                                                                                  \
         KO_REQUIRE( hdr );                                                                                             \
         return koDictKeysVector( hdr->words );                                                                         \
-    }
-
-/**
- * HasItem, SetItem, DelItem, SetItemsVector and ClearItems. `Kept` is how words are kept and looked up. The vector's
- * objects count by their text; a text that is no word ends the process with the set partly built.
- */
-#define TOLMO_TOKEN_SET_CHANGING( Type, Item, item, Kept )                                                             \
+    }                                                                                                                  \
     KoBool tolmoHeader##Type##Has##Item( TolmoHeader##Type hdr, KoString item )                                        \
     {                                                                                                                  \
         KO_REQUIRE( hdr );                                                                                             \
@@ -122,6 +137,19 @@ bool CutToSet( const Lines &lines, Separator separator, Word word, KoDict &words
         KO_REQUIRE_HANDLE( hdr );                                                                                      \
         tolmo::MakeUnique( hdr, tolmoHeader##Type##CreateFrom );                                                       \
         koDictClear( &( *hdr )->words );                                                                               \
+    }                                                                                                                  \
+    TolmoMessageHeader tolmoHeader##Type##Encode( TolmoHeader##Type hdr )                                              \
+    {                                                                                                                  \
+        KO_REQUIRE( hdr );                                                                                             \
+        return tolmo::WordsHeader( headerName, hdr->words, separator );                                                \
+    }                                                                                                                  \
+    namespace {                                                                                                        \
+    KoRef<TolmoHeader##Type> Decode( const tolmo::Lines &lines )                                                       \
+    {                                                                                                                  \
+        auto hdr = tolmo::Adopt( tolmoHeader##Type##Create() );                                                        \
+        const bool good = tolmo::CutToSet<Kept>( lines, skipSeparator, tolmo::skip::Item, hdr.Get()->words );          \
+        return good ? std::move( hdr ) : KoRef<TolmoHeader##Type>();                                                   \
+    }                                                                                                                  \
     }
 
 /** The Cstr and Wcstr forms of HasItem, SetItem and DelItem. */
@@ -149,22 +177,6 @@ bool CutToSet( const Lines &lines, Separator separator, Word word, KoDict &words
     void tolmoHeader##Type##Del##Item##Wcstr( TolmoHeader##Type *hdr, const uint16_t *chs, KoInt length )              \
     {                                                                                                                  \
         tolmoHeader##Type##Del##Item( hdr, tolmo::FromWcstr( chs, length ).Get() );                                    \
-    }
-
-/** Encode and Decode: a word and what stands between two of them, as skip functions; the separator that is printed. */
-#define TOLMO_TOKEN_SET_CODING( Type, skipWord, skipSeparator, separator, Kept )                                       \
-    TolmoMessageHeader tolmoHeader##Type##Encode( TolmoHeader##Type hdr )                                              \
-    {                                                                                                                  \
-        KO_REQUIRE( hdr );                                                                                             \
-        return tolmo::WordsHeader( headerName, hdr->words, separator );                                                \
-    }                                                                                                                  \
-    namespace {                                                                                                        \
-    KoRef<TolmoHeader##Type> Decode( const tolmo::Lines &lines )                                                       \
-    {                                                                                                                  \
-        auto hdr = tolmo::Adopt( tolmoHeader##Type##Create() );                                                        \
-        const bool good = tolmo::CutToSet<Kept>( lines, skipSeparator, skipWord, hdr.Get()->words );                   \
-        return good ? std::move( hdr ) : KoRef<TolmoHeader##Type>();                                                   \
-    }                                                                                                                  \
     }
 
 #endif

@@ -6,8 +6,10 @@
 
 namespace test {
 
+using Strings = std::vector<std::string>;
+
 /** A raw header with some lines. */
-inline KoRef<TolmoMessageHeader> NewHeader( std::string_view name, const std::vector<std::string> &lines )
+inline KoRef<TolmoMessageHeader> NewHeader( std::string_view name, const Strings &lines )
 {
     auto header = KoRef<TolmoMessageHeader>::Adopt( tolmoMessageHeaderCreate( Str( name ).Get() ) );
     for ( const auto &line : lines ) {
@@ -23,9 +25,9 @@ inline std::string NameOf( TolmoMessageHeader header )
 }
 
 /** The lines of a raw header. */
-inline std::vector<std::string> LinesOf( TolmoMessageHeader header )
+inline Strings LinesOf( TolmoMessageHeader header )
 {
-    std::vector<std::string> lines;
+    Strings lines;
     for ( KoInt i = 0; i < tolmoMessageHeaderLinesLength( header ); ++i ) {
         lines.push_back( Take( tolmoMessageHeaderLineAt( header, i ) ) );
     }
