@@ -13,7 +13,7 @@ namespace {
 // Up to this many entries are looked through one by one.
 constexpr KoInt indexedFrom = 24;
 
-// What RecognizeName, and the search for a colon, may read behind a name.
+// What RecognizeName, the search for a colon, and copies in blocks may read behind a piece of the text.
 constexpr KoInt padding = 32;
 static_assert( padding >= longestKnownName );
 
