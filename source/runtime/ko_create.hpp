@@ -16,7 +16,6 @@ inline KoObj CreateObject( size_t size, KoSort sort, size_t &usable )
     obj->sort = sort;
     obj->count = 1;
     obj->blockClass = block.blockClass;
-    CountObject( 1 );
     usable = block.size;
     return obj;
 }
@@ -24,7 +23,6 @@ inline KoObj CreateObject( size_t size, KoSort sort, size_t &usable )
 /** Ends an object whose contents live on in another one. */
 inline void DiscardObject( KoObj obj )
 {
-    CountObject( -1 );
     Free( obj, obj->blockClass );
 }
 

@@ -5,6 +5,7 @@
 
 #include <bit>
 #include <cstdlib>
+#include <new>
 #include <pthread.h>
 
 namespace ko {
@@ -85,9 +86,12 @@ pthread_once_t threadKeyOnce = PTHREAD_ONCE_INIT;
 // One word of static thread storage, so that the library can also be loaded at run time.
 thread_local Thread *here __attribute__( ( tls_model( "initial-exec" ) ) ) = nullptr;
 
-[[noreturn]] void OutOfMemory()
+/** malloc, which does not fail. */
+void *AllocateMemory( size_t size )
 {
-    ko___Abort( "out of memory", __FILE__, __LINE__, "block" );
+    void *const block = malloc( size );
+    KO_REQUIRE_MESSAGE( block, "out of memory", "block" );
+    return block;
 }
 
 void EndThread( void *ended )
@@ -118,10 +122,7 @@ void MakeThreadKey()
 
 [[gnu::noinline]] Thread *BeginThread()
 {
-    auto *const thread = static_cast<Thread *>( calloc( 1, sizeof( Thread ) ) );
-    if ( !thread ) {
-        OutOfMemory();
-    }
+    auto *const thread = new ( AllocateMemory( sizeof( Thread ) ) ) Thread{};
     for ( int32_t i = 0; i < classes; ++i ) {
         const size_t fitting = keptBytes / SizeOf( i );
         thread->lists[i].limit = fitting > keptBlocks ? static_cast<uint32_t>( fitting ) : keptBlocks;
@@ -148,47 +149,40 @@ Thread *Here()
 
 Block Allocate( size_t size )
 {
-    if ( size > largeLimit || !keepsBlocks ) {
-        void *const memory = malloc( size );
-        if ( !memory ) {
-            OutOfMemory();
-        }
-        return { memory, noClass, size };
+    Thread *const thread = Here();
+    ++thread->objects;
+    const int32_t blockClass = size > largeLimit || !keepsBlocks ? noClass : ClassOf( size );
+    if ( blockClass == noClass ) {
+        return { AllocateMemory( size ), noClass, size };
     }
-    const int32_t blockClass = ClassOf( size );
-    FreeList &list = Here()->lists[blockClass];
-    if ( FreeBlock *const block = list.first ) {
-        list.first = block->next;
-        --list.length;
-        return { block, blockClass, SizeOf( blockClass ) };
+    FreeList &list = thread->lists[blockClass];
+    FreeBlock *const block = list.first;
+    if ( !block ) {
+        return { AllocateMemory( SizeOf( blockClass ) ), blockClass, SizeOf( blockClass ) };
     }
-    void *const memory = malloc( SizeOf( blockClass ) );
-    if ( !memory ) {
-        OutOfMemory();
-    }
-    return { memory, blockClass, SizeOf( blockClass ) };
+    list.first = block->next;
+    --list.length;
+    return { block, blockClass, SizeOf( blockClass ) };
 }
 
 void Free( void *memory, int32_t blockClass )
 {
-    if ( blockClass == noClass ) {
+    Thread *const thread = Here();
+    --thread->objects;
+    if ( blockClass == noClass || thread->lists[blockClass].length == thread->lists[blockClass].limit ) {
         free( memory );
         return;
     }
-    FreeList &list = Here()->lists[blockClass];
-    if ( list.length == list.limit ) {
-        free( memory );
-        return;
-    }
+    FreeList &list = thread->lists[blockClass];
     auto *const block = static_cast<FreeBlock *>( memory );
     block->next = list.first;
     list.first = block;
     ++list.length;
 }
 
-void CountObject( int32_t change )
+void UncountObject()
 {
-    Here()->objects += change;
+    --Here()->objects;
 }
 
 int64_t ObjectCount()

@@ -14,16 +14,16 @@ struct Block {
     size_t size; // what may be used; at least what was asked for
 };
 
-/** A block of at least `size` bytes, not cleared. Never null: the process ends when memory is exhausted. */
+/** A block for an object of at least `size` bytes, not cleared. Never null: the process ends when memory is exhausted. */
 Block Allocate( size_t size );
 
-/** Gives a block back. */
+/** Gives the block of an object back. */
 void Free( void *memory, int32_t blockClass );
 
-/** Counts an object that was made (+1) or has ended (-1). */
-void CountObject( int32_t change );
+/** Leaves an object that becomes a constant out of the count. */
+void UncountObject();
 
-/** The sum of all counts of all threads. Takes a lock. */
+/** How many objects have been made and not been given back, in all threads. Takes a lock. */
 int64_t ObjectCount();
 
 } // namespace ko

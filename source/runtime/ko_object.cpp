@@ -1,7 +1,7 @@
 /* Reference-counted objects: the head of every object, and what works on objects of every sort. */
 #include <runtime/ko_object.h>
 
-#include <runtime/ko_memory.hpp>
+#include <runtime/ko_create.hpp>
 #include <runtime/ko_string.h>
 
 #include <cstring>
@@ -17,13 +17,8 @@ KoObj ko___ObjCreateUncleared( KoInt size, KoSort sort )
 {
     KO_REQUIRE( size >= (KoInt)sizeof( struct ko___Obj ) );
     KO_REQUIRE( sort );
-    const ko::Block block = ko::Allocate( static_cast<size_t>( size ) );
-    const auto obj = static_cast<KoObj>( block.memory );
-    obj->sort = sort;
-    obj->count = 1;
-    obj->blockClass = block.blockClass;
-    ko::CountObject( 1 );
-    return obj;
+    size_t usable = 0;
+    return ko::CreateObject( static_cast<size_t>( size ), sort, usable );
 }
 
 void ko___ObjFree( KoObj obj )
@@ -32,8 +27,7 @@ void ko___ObjFree( KoObj obj )
     if ( obj->sort->free ) {
         obj->sort->free( obj );
     }
-    ko::CountObject( -1 );
-    ko::Free( obj, obj->blockClass );
+    ko::DiscardObject( obj );
 }
 
 void ko___ObjMakeConstant( KoObj obj )
@@ -41,7 +35,7 @@ void ko___ObjMakeConstant( KoObj obj )
     KO_REQUIRE( obj );
     KO_REQUIRE( obj->count == 1 );
     obj->count = KO_COUNT_CONSTANT;
-    ko::CountObject( -1 );
+    ko::UncountObject();
 }
 
 KoInt ko___ObjLiveCount( void )

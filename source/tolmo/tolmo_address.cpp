@@ -24,13 +24,8 @@ void TakeDisplayName( Walk &w, Address &address )
 
 bool TakeBracketedIri( Walk &w, Address &address )
 {
-    if ( !w.Need( skip::Laquot ) ) {
-        return false;
-    }
-    w.Maybe( skip::Uri ); // nothing is no URI: the conversion refuses it
-    address.iri = Adopt( ulm___TryConvertFromUriChars( w.Last().chs, w.Last().length ) );
-    address.bracketed = true;
-    return address.iri && w.Need( skip::Raquot );
+    address.bracketed = w.Need( skip::Laquot );
+    return address.bracketed && TakeIri( w, address, skip::Uri ) && w.Need( skip::Raquot );
 }
 
 void AddBracketedIri( Builder &text, KoString iri )

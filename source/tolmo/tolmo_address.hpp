@@ -18,7 +18,16 @@ struct Address {
 /** Takes a display name, if `<` stands behind it: otherwise what looks like one is the beginning of a bare address. */
 void TakeDisplayName( Walk &w, Address &address );
 
-/** Takes `<`, an IRI and `>`. False when one of them is not there. */
+/** Takes an IRI. What `skip` does not take is an empty text, which the conversion refuses. */
+template <class Skip>
+bool TakeIri( Walk &w, Address &address, Skip skip )
+{
+    w.Maybe( skip );
+    address.iri = Adopt( ulm___TryConvertFromUriChars( w.Last().chs, w.Last().length ) );
+    return static_cast<bool>( address.iri );
+}
+
+/** Takes `<`, an IRI and `>`. False when one of them is not there; `bracketed` tells whether it began at all. */
 bool TakeBracketedIri( Walk &w, Address &address );
 
 /**
@@ -29,14 +38,7 @@ template <class SkipBare>
 bool TakeAddress( Walk &w, Address &address, SkipBare skipBare )
 {
     TakeDisplayName( w, address );
-    const KoInt place = w.Place();
-    if ( w.Need( skip::Laquot ) ) {
-        w.Return( place );
-        return TakeBracketedIri( w, address );
-    }
-    w.Maybe( skipBare );
-    address.iri = Adopt( ulm___TryConvertFromUriChars( w.Last().chs, w.Last().length ) );
-    return static_cast<bool>( address.iri );
+    return TakeBracketedIri( w, address ) || ( !address.bracketed && TakeIri( w, address, skipBare ) );
 }
 
 /** Adds an IRI in its URI form in angle brackets, which are always written. */

@@ -27,6 +27,26 @@ public:
     }
     void Add( Text text ) { ko::CopyChars( Room( text.length ), text.chs, text.length ); }
     void Add( KoString s ) { Add( Text( s ) ); }
+    /** ASCII text in capitals. */
+    void AddRaised( KoString s )
+    {
+        KoChar *const to = Room( s->length );
+        for ( KoInt i = 0; i < s->length; ++i ) {
+            const KoChar ch = ko::Chars( s )[i];
+            to[i] = ch >= 'a' && ch <= 'z' ? ch - 0x20 : ch;
+        }
+    }
+    /** A number that is not negative, in decimal. */
+    void AddNumber( KoInt number )
+    {
+        KoChar digits[19];
+        KoInt first = std::size( digits );
+        do {
+            digits[--first] = '0' + static_cast<KoChar>( number % 10 );
+            number /= 10;
+        } while ( number > 0 );
+        Add( Text( digits + first, static_cast<KoInt>( std::size( digits ) ) - first ) );
+    }
     /** A fresh string: `text.Take( tolmo___HostEncode( host ) )`. */
     void Take( KoString s ) { Add( KoRef<KoString>::Adopt( s ).Get() ); }
 

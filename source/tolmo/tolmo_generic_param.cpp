@@ -181,6 +181,9 @@ void tolmo::AddParam( Builder &text, TolmoGenericParam param )
     if ( !param->value ) {
         return;
     }
+    KO_REQUIRE_MESSAGE( TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type ),
+                        "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
+                        "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
     text.Add( '=' );
     switch ( param->type ) {
     case TOLMO_GENERIC_PARAM_VALUE_TYPE_TOKEN:
@@ -189,7 +192,7 @@ void tolmo::AddParam( Builder &text, TolmoGenericParam param )
     case TOLMO_GENERIC_PARAM_VALUE_TYPE_HOST:
         text.Take( tolmo___HostEncode( param->value ) );
         break;
-    default: // TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING: no other type gets into a parameter
+    default: // TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING
         text.Take( tolmo___QuotableStringEncode( param->value ) );
         break;
     }

@@ -1,12 +1,12 @@
 /*
  * The family of the typed headers: what all sixty share.
  *
- * A unit tells its fields and its type as every other type does, then its `Create`, its `Encode`, and one function
- * `Decode`, over the last line or over all lines of a raw header. One macro makes the rest of the contract of it:
+ * A unit tells its fields and its type as every other type does, then its name, its `Create`, its `Encode`, and one
+ * function `Decode`, over the last line or over all lines of a raw header. One macro makes the rest of the contract:
  *
- *     TOLMO_HEADER_CONSTANT( MaxForwards, "Max-Forwards" )
+ *     TOLMO_HEADER_NAME( MaxForwards, MaxForwards, "Max-Forwards" )
  *     ... Create, accessors, Encode, Decode ...
- *     TOLMO_HEADER_LAST_LINE( MaxForwards )
+ *     TOLMO_HEADER_OPERATIONS( MaxForwards, MaxForwards )
  */
 #ifndef TOLMO_HEADER_HPP
 #define TOLMO_HEADER_HPP
@@ -144,27 +144,15 @@ auto DecodeLastLine( const Lines &lines, DecodeLine decodeLine )
 
 /**
  * The rest of a header's contract, over its `tolmoHeaderXEncode` and its function `Decode( lines )`: TryDecode,
- * TryDecodeFromMessage, EncodeToMessage, PresentInMessage, RemoveFromMessage, Store, TryRestore.
- *
- * A header that is in the message without a line is present, but is not decoded. A store without a line is: what that
- * gives is up to `Decode`.
+ * EncodeToMessage, PresentInMessage, RemoveFromMessage, Store, TryRestore. What a store without a line gives is up to
+ * `Decode`.
  */
-#define TOLMO_HEADER_OPERATIONS( Type, Constant )                                                                      \
+#define TOLMO_HEADER_OPERATIONS_BUT_DECODING_FROM_MESSAGE( Type, Constant )                                            \
     TolmoHeader##Type tolmoHeader##Type##TryDecode( TolmoMessageHeader header )                                        \
     {                                                                                                                  \
         KO_REQUIRE_AS( tolmo::IsHeader( header, headerName, tolmo___Kos##Constant ),                                   \
                        "tolmoMessageHeaderNameEquals( header, tolmo___Kos" #Constant " )" );                           \
         return Decode( tolmo::Lines( header ) ).Leak();                                                                \
-    }                                                                                                                  \
-    TolmoHeader##Type tolmoHeader##Type##TryDecodeFromMessage( TolmoMessage msg )                                      \
-    {                                                                                                                  \
-        KO_REQUIRE( msg );                                                                                             \
-        const tolmo::HeaderEntry *const entry = tolmo::FindEntry( msg->fragment->headers, headerName );                \
-        if ( !entry ) {                                                                                                \
-            return nullptr;                                                                                            \
-        }                                                                                                              \
-        const tolmo::Lines lines( msg->fragment->headers, *entry );                                                    \
-        return lines.Empty() ? nullptr : Decode( lines ).Leak();                                                       \
     }                                                                                                                  \
     void tolmoHeader##Type##EncodeToMessage( TolmoHeader##Type hdr, TolmoMessage *msg )                                \
     {                                                                                                                  \
@@ -195,5 +183,23 @@ auto DecodeLastLine( const Lines &lines, DecodeLine decodeLine )
         const auto header = tolmo::Adopt( tolmoMessageHeaderRestoreLines( tolmo___Kos##Constant, store ) );            \
         return Decode( tolmo::Lines( header.Get() ) ).Leak();                                                          \
     }
+
+/** TryDecodeFromMessage alone. A header that is in the message without a line is present, but is not decoded. */
+#define TOLMO_HEADER_DECODING_FROM_MESSAGE( Type )                                                                     \
+    TolmoHeader##Type tolmoHeader##Type##TryDecodeFromMessage( TolmoMessage msg )                                      \
+    {                                                                                                                  \
+        KO_REQUIRE( msg );                                                                                             \
+        const tolmo::HeaderEntry *const entry = tolmo::FindEntry( msg->fragment->headers, headerName );                \
+        if ( !entry ) {                                                                                                \
+            return nullptr;                                                                                            \
+        }                                                                                                              \
+        const tolmo::Lines lines( msg->fragment->headers, *entry );                                                    \
+        return lines.Empty() ? nullptr : Decode( lines ).Leak();                                                       \
+    }
+
+/** All of them. */
+#define TOLMO_HEADER_OPERATIONS( Type, Constant )                                                                      \
+    TOLMO_HEADER_OPERATIONS_BUT_DECODING_FROM_MESSAGE( Type, Constant )                                                \
+    TOLMO_HEADER_DECODING_FROM_MESSAGE( Type )
 
 #endif

@@ -49,71 +49,88 @@ consteval std::array<NameId, 32> MakeCompactTable()
 }
 constexpr std::array<NameId, 32> compactTable = MakeCompactTable();
 
-// Names are compared in small letters, eight at a time. In token characters the bit 0x20 is all that tells capitals
-// from small letters, and no character becomes a letter or a hyphen by it that was none.
+// A name as three words of eight bytes each, zero behind its end. Names are compared in small letters: setting the bit
+// 0x20 makes them of capitals, and letters of nothing else. A hyphen comes out of a CR as well, so its bit has to be
+// there from the start.
 constexpr size_t words = 3;
 constexpr uint64_t smallLetters = 0x2020202020202020;
 static_assert( longestKnownName == words * 8 );
 
-struct Folded {
+struct Words {
     uint64_t word[words];
+    bool operator==( const Words & ) const = default;
 };
 
-constexpr uint64_t FoldedWord( std::string_view name, size_t first )
+template <class ByteAt>
+consteval Words MakeWords( size_t length, ByteAt byteAt )
 {
-    uint64_t word = 0;
-    for ( size_t i = first; i < first + 8 && i < name.size(); ++i ) {
-        word |= static_cast<uint64_t>( static_cast<uint8_t>( name[i] ) | 0x20 ) << ( 8 * ( i - first ) );
+    Words made{};
+    for ( size_t i = 0; i < length; ++i ) {
+        made.word[i / 8] |= static_cast<uint64_t>( byteAt( i ) ) << ( 8 * ( i % 8 ) );
     }
-    return word;
+    return made;
 }
 
-consteval std::array<Folded, knownNameCount> MakeFolded()
+struct KnownWords {
+    Words small;   // the name in small letters
+    Words hyphens; // the bit 0x20 where it has hyphens
+};
+
+consteval std::array<KnownWords, knownNameCount> MakeKnownWords()
 {
-    std::array<Folded, knownNameCount> folded{};
+    std::array<KnownWords, knownNameCount> known{};
     for ( size_t id = 0; id < knownNameCount; ++id ) {
-        for ( size_t w = 0; w < words; ++w ) {
-            folded[id].word[w] = FoldedWord( knownNames[id], w * 8 );
+        const std::string_view name = knownNames[id];
+        known[id].small = MakeWords( name.size(), [=]( size_t i ) { return name[i] | 0x20; } );
+        known[id].hyphens = MakeWords( name.size(), [=]( size_t i ) { return name[i] == '-' ? 0x20 : 0; } );
+    }
+    return known;
+}
+constexpr std::array<KnownWords, knownNameCount> knownWords = MakeKnownWords();
+
+/** For each length, the bytes that belong to a name. */
+consteval std::array<Words, longestKnownName + 1> MakeMasks()
+{
+    std::array<Words, longestKnownName + 1> masks{};
+    for ( size_t length = 0; length < masks.size(); ++length ) {
+        masks[length] = MakeWords( length, []( size_t ) { return 0xFF; } );
+    }
+    return masks;
+}
+constexpr std::array<Words, longestKnownName + 1> masks = MakeMasks();
+
+// A hash table in which each known name has a slot to itself, found when this is compiled: so one look tells.
+constexpr int slotBits = 10;
+
+constexpr size_t SlotOf( const Words &name, uint64_t factor )
+{
+    return static_cast<size_t>( ( name.word[0] + 3 * name.word[1] + 5 * name.word[2] ) * factor >> ( 64 - slotBits ) );
+}
+
+struct Slots {
+    uint64_t factor = 0x9E3779B97F4A7C15;
+    std::array<uint8_t, 1 << slotBits> id{}; // knownNameCount: none
+};
+
+consteval Slots MakeSlots()
+{
+    Slots slots;
+    for ( bool alone = false; !alone; slots.factor = slots.factor * 0xD1342543DE82EF95 + 2 ) {
+        alone = true;
+        slots.id.fill( knownNameCount );
+        for ( size_t id = 0; id < knownNameCount && alone; ++id ) {
+            uint8_t &slot = slots.id[SlotOf( knownWords[id].small, slots.factor )];
+            alone = slot == knownNameCount;
+            slot = static_cast<uint8_t>( id );
+        }
+        if ( alone ) {
+            return slots;
         }
     }
-    return folded;
+    return slots;
 }
-constexpr std::array<Folded, knownNameCount> foldedNames = MakeFolded();
-
-// An open hash table over the first word and the length. The keys are fixed, so nobody can make it slow.
-constexpr size_t slots = 256;
-
-constexpr size_t SlotOf( uint64_t firstWord, size_t length )
-{
-    return static_cast<size_t>( ( ( firstWord + length ) * 0x9E3779B97F4A7C15 ) >> 56 );
-}
-
-consteval std::array<uint8_t, slots> MakeSlots()
-{
-    std::array<uint8_t, slots> table{};
-    for ( size_t id = 0; id < knownNameCount; ++id ) {
-        size_t slot = SlotOf( foldedNames[id].word[0], knownNames[id].size() );
-        while ( table[slot] ) {
-            slot = ( slot + 1 ) % slots;
-        }
-        table[slot] = static_cast<uint8_t>( id + 1 );
-    }
-    return table;
-}
-constexpr std::array<uint8_t, slots> slotTable = MakeSlots();
-static_assert( knownNameCount < 255 );
-
-NameId Find( const Folded &name, size_t length )
-{
-    for ( size_t slot = SlotOf( name.word[0], length ); slotTable[slot]; slot = ( slot + 1 ) % slots ) {
-        const size_t id = slotTable[slot] - 1u;
-        if ( foldedNames[id].word[0] == name.word[0] && knownNames[id].size() == length &&
-             foldedNames[id].word[1] == name.word[1] && foldedNames[id].word[2] == name.word[2] ) {
-            return static_cast<NameId>( id );
-        }
-    }
-    return unknownName;
-}
+constexpr Slots slots = MakeSlots();
+static_assert( knownNameCount < UINT8_MAX );
 
 NameId FindCompact( uint32_t ch )
 {
@@ -130,15 +147,22 @@ NameId RecognizeName( const uint8_t *bytes, KoInt length )
     if ( length > longestKnownName ) {
         return unknownName;
     }
-    Folded name{};
-    for ( KoInt first = 0; first < length; first += 8 ) {
-        uint64_t word = 0;
-        memcpy( &word, bytes + first, sizeof word );
-        const KoInt left = length - first;
-        const uint64_t kept = left >= 8 ? ~uint64_t{ 0 } : ~( ~uint64_t{ 0 } << ( 8 * left ) );
-        name.word[first / 8] = ( word | smallLetters ) & kept;
+    Words raw;
+    memcpy( &raw, bytes, sizeof raw );
+    Words small{};
+    for ( size_t i = 0; i < words; ++i ) {
+        small.word[i] = ( raw.word[i] | smallLetters ) & masks[static_cast<size_t>( length )].word[i];
     }
-    return Find( name, static_cast<size_t>( length ) );
+    const size_t id = slots.id[SlotOf( small, slots.factor )];
+    if ( id == knownNameCount ) {
+        return unknownName;
+    }
+    uint64_t difference = 0;
+    for ( size_t i = 0; i < words; ++i ) {
+        difference |= small.word[i] ^ knownWords[id].small.word[i];
+        difference |= knownWords[id].hyphens.word[i] & ~raw.word[i];
+    }
+    return difference ? unknownName : static_cast<NameId>( id );
 }
 
 NameId RecognizeName( const KoChar *chs, KoInt length )

@@ -111,19 +111,19 @@ consteval NameId KnownName( std::string_view name )
 
 inline constexpr NameId contentLengthName = KnownName( "Content-Length" );
 
-/** No known name is longer. */
+/** No known name is longer. RecognizeName reads so many bytes, however long the name is. */
 inline constexpr KoInt longestKnownName = 24;
 
 /**
- * Recognises a name, also in its compact form, in any case.
+ * Recognises a name, also in its compact form, in any case. What is recognised is a name; what is not, may hold any
+ * bytes.
  *
- * @param bytes The name, token characters only. Whole words of eight bytes are read: behind the name at least seven
- *     bytes must be readable.
+ * @param bytes The name; `longestKnownName` bytes must be readable.
  * @return Its position, or unknownName.
  */
 NameId RecognizeName( const uint8_t *bytes, KoInt length );
 
-/** The same over characters, which need no room behind them. */
+/** The same over characters, which need no room behind them: token characters only. */
 NameId RecognizeName( const KoChar *chs, KoInt length );
 
 /** The constant string of a known name. Between start and stop of the module only. */

@@ -13,8 +13,9 @@ namespace {
 // Up to this many entries are looked through one by one.
 constexpr KoInt indexedFrom = 24;
 
-// What RecognizeName may read behind a name.
-constexpr KoInt padding = 8;
+// What RecognizeName, and the search for a colon, may read behind a name.
+constexpr KoInt padding = 32;
+static_assert( padding >= longestKnownName );
 
 constexpr ko___Sort decodedHeadSort = TOLMO_SORT( "TOLMO_DECODED_HEAD", nullptr, nullptr, nullptr );
 

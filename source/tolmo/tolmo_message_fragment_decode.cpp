@@ -6,6 +6,8 @@
 #include <tolmo/tolmo_skip.hpp>
 #include <tolmo/tolmo_wide.hpp>
 
+#include <algorithm>
+
 #if defined( __SSE2__ )
 #include <emmintrin.h>
 #endif
@@ -18,45 +20,108 @@ namespace {
 constexpr uint8_t cr = 0x0D;
 constexpr uint8_t lf = 0x0A;
 
-/** The first place from `from` on where a CR stands, or `length`. */
-KoInt FindCr( const uint8_t *bytes, KoInt from, KoInt length )
+/** Calls `take( i )` for each place i where CR LF stands, from `from` on, as long as it returns true. */
+template <class Take>
+void ForEachLineEnd( const uint8_t *bytes, KoInt from, KoInt length, Take take )
 {
 #if defined( __SSE2__ )
     const __m128i crs = _mm_set1_epi8( cr );
-    for ( ; length - from >= 16; from += 16 ) {
-        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) );
-        if ( const int found = _mm_movemask_epi8( _mm_cmpeq_epi8( block, crs ) ) ) {
-            return from + std::countr_zero( static_cast<unsigned>( found ) );
+    for ( ; length - from > 64; from += 64 ) {
+        uint64_t found = 0;
+        for ( int part = 0; part < 4; ++part ) {
+            const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) + part );
+            const auto mask = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, crs ) ) );
+            found |= uint64_t{ mask } << ( 16 * part );
+        }
+        for ( ; found; found &= found - 1 ) {
+            const KoInt place = from + std::countr_zero( found );
+            if ( bytes[place + 1] == lf && !take( place ) ) {
+                return;
+            }
         }
     }
 #endif
-    while ( from < length && bytes[from] != cr ) {
+    for ( ; length - from >= 2; ++from ) {
+        if ( bytes[from] == cr && bytes[from + 1] == lf && !take( from ) ) {
+            return;
+        }
+    }
+}
+
+/** Where a byte stands from `from` on, or `length`. Up to 15 bytes behind the text must be readable. */
+KoInt FindByte( const uint8_t *bytes, KoInt from, KoInt length, uint8_t byte )
+{
+#if defined( __SSE2__ )
+    const __m128i wanted = _mm_set1_epi8( static_cast<char>( byte ) );
+    for ( ; from < length; from += 16 ) {
+        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) );
+        const auto found = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, wanted ) ) );
+        if ( found ) {
+            return koIntMin( from + std::countr_zero( found ), length );
+        }
+    }
+    return length;
+#else
+    while ( from < length && bytes[from] != byte ) {
         ++from;
     }
     return from;
+#endif
 }
 
-/** Where the line that goes through `from` ends: at the CR of its CR LF, or with the text. */
+/** Where the line that goes through `from` ends: at its CR LF, or with the text. */
 KoInt FindLineEnd( const uint8_t *bytes, KoInt from, KoInt length )
 {
-    while ( ( from = FindCr( bytes, from, length ) ) < length ) {
-        if ( from + 1 < length && bytes[from + 1] == lf ) {
-            return from;
-        }
-        ++from;
-    }
+    ForEachLineEnd( bytes, from, length, [&]( KoInt place ) {
+        length = place;
+        return false;
+    } );
     return length;
 }
 
-/** The number of lines: the CR LF, and one for what stands behind the last. */
-KoInt CountLines( const uint8_t *bytes, KoInt length )
-{
-    KoInt count = 1;
-    for ( KoInt end = FindLineEnd( bytes, 0, length ); end < length; end = FindLineEnd( bytes, end + 2, length ) ) {
-        ++count;
+/** The lines of a head, from one pass over its bytes. */
+class LineEnds {
+public:
+    /** Looks through bytes up to their end or, with `wholeMessage`, up to the first empty line. */
+    LineEnds( const uint8_t *bytes, KoInt length, bool wholeMessage )
+    {
+        ForEachLineEnd( bytes, 0, length, [&]( KoInt place ) {
+            if ( wholeMessage && count > 0 && place == last + 2 ) {
+                emptyLine = place;
+                return false;
+            }
+            if ( count < kept ) {
+                ends[count] = place;
+            }
+            ++count;
+            last = place;
+            return true;
+        } );
     }
-    return count;
-}
+
+    /** Where the empty line begins, -1 when there is none. */
+    [[nodiscard]] KoInt EmptyLine() const { return emptyLine; }
+
+    /** The number of lines: one for each CR LF, and one for what stands behind the last. */
+    [[nodiscard]] KoInt Lines() const { return count + 1; }
+
+    /** Where line `line` ends, which begins at `begin`. The first ones are remembered. */
+    [[nodiscard]] KoInt EndOf( KoInt line, const uint8_t *bytes, KoInt begin, KoInt length ) const
+    {
+        if ( line >= count ) {
+            return length;
+        }
+        return line < kept ? ends[line] : FindLineEnd( bytes, begin, length );
+    }
+
+private:
+    static constexpr KoInt kept = 64;
+
+    KoInt count = 0; // of CR LF
+    KoInt last = -1;
+    KoInt emptyLine = -1;
+    KoInt ends[kept]; // NOLINT: only the first `count` are set, and read
+};
 
 bool IsUtf8( const uint8_t *bytes, KoInt length )
 {
@@ -75,6 +140,11 @@ bool IsUtf8( const uint8_t *bytes, KoInt length )
 bool IsLws( uint8_t byte )
 {
     return byte == ' ' || byte == '\t';
+}
+
+bool IsToken( const uint8_t *bytes, KoInt length )
+{
+    return std::all_of( bytes, bytes + length, []( uint8_t byte ) { return Is( byte, charToken ); } );
 }
 
 enum class StartLine { none, good, bad };
@@ -138,12 +208,13 @@ public:
      * Takes the lines from `at` on. A line that begins with whitespace goes on with the one before it: the two are
      * joined by one blank, in place, since that is never longer than what was there. An empty line ends a header too.
      */
-    bool Take( KoInt at, KoInt length )
+    bool Take( KoInt at, KoInt length, const LineEnds &ends, KoInt firstLine )
     {
         KoInt pending = -1; // where the header that is being collected begins, and where it ends
         KoInt pendingEnd = 0;
+        KoInt line = firstLine;
         for ( KoInt next = 0; at < length; at = next ) {
-            const KoInt lineEnd = FindLineEnd( text, at, length );
+            const KoInt lineEnd = ends.EndOf( line++, text, at, length );
             next = lineEnd + 2;
             if ( pending >= 0 && !( at < lineEnd && IsLws( text[at] ) ) ) {
                 if ( !TakeHeader( pending, pendingEnd ) ) {
@@ -176,7 +247,7 @@ public:
     /** The last line of `Content-Length`, or null when there is none. */
     [[nodiscard]] const RawLine *ContentLength() const
     {
-        const KoInt entry = entryOf[contentLengthName];
+        const uint32_t entry = entryOf[contentLengthName];
         return entry ? lines + frag->headers->Entries()[entry - 1].lastLine : nullptr;
     }
 
@@ -184,16 +255,13 @@ private:
     // header-line = name [ LWS ] ":" [ LWS ] [ value ]
     bool TakeHeader( KoInt begin, KoInt end )
     {
-        KoInt at = begin;
-        while ( at < end && Is( text[at], charToken ) ) {
-            ++at;
-        }
-        const KoInt nameLength = at - begin;
-        while ( at < end && IsLws( text[at] ) ) {
-            ++at;
-        }
-        if ( nameLength == 0 || at == end || text[at] != ':' ) {
+        KoInt at = FindByte( text, begin, end, ':' );
+        if ( at == end ) {
             return false;
+        }
+        KoInt nameLength = at - begin;
+        while ( nameLength > 0 && IsLws( text[begin + nameLength - 1] ) ) {
+            --nameLength;
         }
         ++at;
         while ( at < end && IsLws( text[at] ) ) {
@@ -202,21 +270,28 @@ private:
         const KoInt line = count++;
         lines[line] = { .offset = at, .length = end - at, .next = 0 };
         HeaderEntry *const entry = FindOrAppend( begin, nameLength, line );
+        if ( !entry ) {
+            return false;
+        }
         lines[entry->lastLine].next = line; // of a new entry, its own line's, which is not looked at
         entry->lastLine = line;
         return true;
     }
 
+    /** The entry of a name; null when it is none. */
     HeaderEntry *FindOrAppend( KoInt name, KoInt nameLength, KoInt line )
     {
         const NameId known = RecognizeName( text + name, nameLength );
         if ( known != unknownName ) {
-            KoInt &entry = entryOf[known];
+            uint32_t &entry = entryOf[known];
             if ( entry == 0 ) {
                 Append( known, 0, 0, line );
-                entry = frag->headers->count;
+                entry = static_cast<uint32_t>( frag->headers->count );
             }
             return frag->headers->Entries() + entry - 1;
+        }
+        if ( nameLength == 0 || !IsToken( text + name, nameLength ) ) {
+            return nullptr;
         }
         CapitalizeName( text + name, nameLength );
         HeaderEntry *const entry = FindUnknownEntry( frag->headers, text + name, nameLength );
@@ -237,7 +312,7 @@ private:
     RawLine *lines;
     uint8_t *text;
     KoInt count = 0;
-    KoInt entryOf[knownNameCount] = {}; // for a known name, the position of its entry and 1
+    uint32_t entryOf[knownNameCount] = {}; // for a known name, the position of its entry and 1
 };
 
 /** The value of a `Content-Length` line, or -1. */
@@ -251,20 +326,7 @@ KoInt DecodeContentLength( const uint8_t *bytes, KoInt length )
     return good ? value : -1;
 }
 
-} // namespace
-
-KoInt FindHeadEnd( const uint8_t *bytes, KoInt from, KoInt length )
-{
-    while ( ( from = FindCr( bytes, from, length ) ) <= length - 4 ) {
-        if ( memcmp( bytes + from, "\r\n\r\n", 4 ) == 0 ) {
-            return from;
-        }
-        ++from;
-    }
-    return -1;
-}
-
-KoRef<TolmoMessageFragment> DecodeHead( const uint8_t *bytes, KoInt length, KoInt *contentLength )
+KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const LineEnds &ends, KoInt *contentLength )
 {
     if ( contentLength ) {
         *contentLength = -1;
@@ -272,14 +334,13 @@ KoRef<TolmoMessageFragment> DecodeHead( const uint8_t *bytes, KoInt length, KoIn
     if ( !IsUtf8( bytes, length ) ) {
         return {};
     }
-    const KoInt lineCount = CountLines( bytes, length );
-    auto decoded = CreateDecodedHead( lineCount, length );
+    auto decoded = CreateDecodedHead( ends.Lines(), length );
     DecodedHead *const head = decoded.Get();
     if ( length > 0 ) {
         memcpy( head->Text(), bytes, static_cast<size_t>( length ) );
     }
-    auto frag = CreateFragment( CreateHeaderTable( koIntMin( lineCount + 2, 20 ), std::move( decoded ) ) );
-    const KoInt lineEnd = FindLineEnd( bytes, 0, length );
+    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.Lines() + 2, 20 ), std::move( decoded ) ) );
+    const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
     switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {
     case StartLine::bad:
@@ -291,7 +352,7 @@ KoRef<TolmoMessageFragment> DecodeHead( const uint8_t *bytes, KoInt length, KoIn
         break;
     }
     HeaderLines lines( frag.Get(), head );
-    if ( !lines.Take( headers, length ) ) {
+    if ( !lines.Take( headers, length, ends, headers > 0 ? 1 : 0 ) ) {
         return {};
     }
     const RawLine *const line = lines.ContentLength();
@@ -302,6 +363,25 @@ KoRef<TolmoMessageFragment> DecodeHead( const uint8_t *bytes, KoInt length, KoIn
         }
     }
     return frag;
+}
+
+} // namespace
+
+KoInt FindHeadEnd( const uint8_t *bytes, KoInt from, KoInt length )
+{
+    KoInt end = -1;
+    ForEachLineEnd( bytes, from, length, [&]( KoInt place ) {
+        if ( length - place >= 4 && bytes[place + 2] == cr && bytes[place + 3] == lf ) {
+            end = place;
+        }
+        return end < 0;
+    } );
+    return end;
+}
+
+KoRef<TolmoMessageFragment> DecodeHead( const uint8_t *bytes, KoInt length, KoInt *contentLength )
+{
+    return Decode( bytes, length, LineEnds( bytes, length, false ), contentLength );
 }
 
 } // namespace tolmo
@@ -315,12 +395,13 @@ TolmoMessageFragment tolmoMessageFragmentTryDecodeHeaders( KoBuffer buf, KoInt *
 TolmoMessageFragment tolmoMessageFragmentTryDecode( KoBuffer buf )
 {
     KO_REQUIRE( buf );
-    const KoInt found = tolmo::FindHeadEnd( ko::Bytes( buf ), 0, buf->length );
-    const KoInt headLength = found < 0 ? buf->length : found + 2;
-    const KoInt body = found < 0 ? buf->length : found + 4;
+    const tolmo::LineEnds ends( ko::Bytes( buf ), buf->length, true );
+    const KoInt emptyLine = ends.EmptyLine();
+    const KoInt headLength = emptyLine < 0 ? buf->length : emptyLine;
+    const KoInt body = emptyLine < 0 ? buf->length : emptyLine + 2;
     const KoInt bodyLength = buf->length - body;
     KoInt contentLength = -1;
-    auto frag = tolmo::DecodeHead( ko::Bytes( buf ), headLength, &contentLength );
+    auto frag = tolmo::Decode( ko::Bytes( buf ), headLength, ends, &contentLength );
     if ( !frag || contentLength > bodyLength ) {
         return nullptr;
     }

@@ -27,7 +27,7 @@ KoBool Start( void )
     }
     tolmo___MessageHeaderStartup();
     tolmo___SessUuidStartup();
-    // tolmo___UuiValueStartup();
+    tolmo___UuiValueStartup();
     tolmo___VersionStartup();
     tolmo___ViaStartup();
     tolmo___MessageFragmentStartup();
@@ -39,7 +39,7 @@ void Stop( void )
 {
     tolmo___MessageFragmentShutdown();
     tolmo___SessUuidShutdown();
-    // tolmo___UuiValueShutdown();
+    tolmo___UuiValueShutdown();
     tolmo___VersionShutdown();
     tolmo___ViaShutdown();
     tolmo___MessageHeaderShutdown();

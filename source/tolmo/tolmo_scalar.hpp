@@ -45,6 +45,16 @@ inline KoInt TryDecodeNumber( const KoChar *chs, KoInt length, KoInt largest )
     return whole && value >= 0 && value <= largest ? value : -1;
 }
 
+/** Takes a run of digits whose number a validator accepts. */
+inline bool TakeNumber( Walk &w, KoBool ( *isGood )( KoInt ), KoInt &number )
+{
+    if ( !w.Need( skip::Digits ) ) {
+        return false;
+    }
+    number = TryDecodeNumber( w.Last().chs, w.Last().length, INT64_MAX );
+    return isGood( number );
+}
+
 } // namespace tolmo
 
 #endif

@@ -498,16 +498,19 @@ inline KoInt Qvalue( const KoChar *chs, KoInt length )
                                                                        w.Maybe( Char, '0' ) ) ) );
 }
 
+inline constexpr std::string_view wkdayNames = "MonTueWedThuFriSatSun";
+inline constexpr std::string_view monthNames = "JanFebMarAprMayJunJulAugSepOctNovDec";
+
 // wkday = "Mon" / "Tue" / "Wed" / "Thu" / "Fri" / "Sat" / "Sun"; Monday is 0
 inline KoInt Wkday( const KoChar *chs, KoInt length, KoInt *value )
 {
-    return Name( chs, length, "MonTueWedThuFriSatSun", 0, value );
+    return Name( chs, length, wkdayNames, 0, value );
 }
 
 // month = "Jan" / "Feb" / "Mar" / "Apr" / "May" / "Jun" / "Jul" / "Aug" / "Sep" / "Oct" / "Nov" / "Dec"; January is 1
 inline KoInt Month( const KoChar *chs, KoInt length, KoInt *value )
 {
-    return Name( chs, length, "JanFebMarAprMayJunJulAugSepOctNovDec", 1, value );
+    return Name( chs, length, monthNames, 1, value );
 }
 
 // "." *DIGIT

@@ -41,6 +41,7 @@ constexpr KoChar twoZero[] = { '2', '.', '0' };
 
 KoString kosSip = nullptr;
 KoString kosTwoZero = nullptr;
+KoString kosSip20 = nullptr; // the wire text of the constant
 TolmoVersion sip20 = nullptr;
 
 // The constant lives as long as the process, so that a caller may hold it beyond the stop of the module.
@@ -52,6 +53,7 @@ void tolmo___VersionStartup( void )
 {
     tolmo::Start( kosSip, "SIP" );
     tolmo::Start( kosTwoZero, "2.0" );
+    tolmo::Start( kosSip20, "SIP/2.0" );
     if ( !keptSip20 ) {
         keptSip20 = tolmo::CreateObject<tolmo___Version>( tolmoVersionSort() ).Leak();
         keptSip20->protocolName = tolmo::Retained( kosSip );
@@ -64,6 +66,7 @@ void tolmo___VersionStartup( void )
 void tolmo___VersionShutdown( void )
 {
     tolmo::FreeField( sip20 );
+    tolmo::Stop( kosSip20 );
     tolmo::Stop( kosTwoZero );
     tolmo::Stop( kosSip );
 }
@@ -127,6 +130,9 @@ void tolmoVersionSetProtocolVersion( TolmoVersion *version, KoString protocolVer
 KoString tolmo___VersionEncode( TolmoVersion version )
 {
     KO_REQUIRE( version );
+    if ( version == sip20 ) {
+        return tolmo::Retained( kosSip20 ); // what nearly every message carries costs nothing
+    }
     return koStringCreateFromFormatCstr( "%s/%s", -1, version->protocolName, version->protocolVersion );
 }
 

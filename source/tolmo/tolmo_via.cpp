@@ -120,9 +120,10 @@ TolmoVia tolmoViaCreateWithPort( TolmoVersion version, KoString transport, KoStr
     KO_REQUIRE( tolmoTransportOk( transport ) );
     KO_REQUIRE( tolmoHostOk( host ) );
     KO_REQUIRE( tolmoPortOk( port ) );
-    const TolmoVia via = tolmoViaCreate( version, transport, host );
-    via->port = port;
-    return via;
+    auto normal = tolmo::Adopt( tolmoTransportNormalize( transport ) );
+    auto via = Create( tolmo::Share( version ), std::move( normal ), tolmo::Share( host ) );
+    via.Get()->port = port;
+    return via.Leak();
 }
 
 TolmoVersion tolmoViaVersion( TolmoVia via )
@@ -369,16 +370,16 @@ KoString tolmo___ViaEncode( TolmoVia via )
     tolmo::Builder text;
     text.Take( tolmo___VersionEncode( via->version ) );
     text.Add( '/' );
-    text.Take( tolmo::Raised( via->transport ) );
+    text.AddRaised( via->transport );
     text.Add( ' ' );
     text.Take( tolmo___HostEncode( via->host ) );
     if ( via->port != -1 ) {
         text.Add( ':' );
-        text.Take( tolmo___PortEncode( via->port ) );
+        text.AddNumber( via->port );
     }
     if ( via->ttl != -1 ) {
         tolmo::AddParamName( text, kosTtl );
-        text.Take( tolmo___TtlEncode( via->ttl ) );
+        text.AddNumber( via->ttl );
     }
     if ( via->maddr ) {
         tolmo::AddParamName( text, kosMaddr );
@@ -393,7 +394,7 @@ KoString tolmo___ViaEncode( TolmoVia via )
         text.Add( kosRport );
     } else if ( via->rportNumeric != -1 ) {
         tolmo::AddParamName( text, kosRport );
-        text.Take( tolmo___PortEncode( via->rportNumeric ) );
+        text.AddNumber( via->rportNumeric );
     }
     if ( via->branch ) {
         tolmo::AddParamName( text, kosBranch );

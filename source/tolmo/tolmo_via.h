@@ -140,7 +140,6 @@ KO_API KoString tolmo___ViaEncode( TolmoVia via );
  * @return new reference, or null.
  * @pre length >= 0
  * @pre chs || length == 0
- * @pre tolmoPortOk( rport ): a numeric `rport` fits (tolmo___SkipPort takes no other)
  */
 KO_API TolmoVia tolmo___ViaTryDecode( const KoChar *chs, KoInt length );
 

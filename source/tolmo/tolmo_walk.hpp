@@ -2,8 +2,6 @@
 #ifndef TOLMO_WALK_HPP
 #define TOLMO_WALK_HPP
 
-#include <tolmo/tolmo_char.hpp>
-
 #include <runtime/ko_inner.hpp>
 #include <tolmo/tolmo_char.hpp>
 

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <cstring>
+#include <mutex>
 #include <random>
 #include <set>
 #include <thread>
@@ -132,21 +133,29 @@ TEST_F( MemoryTest, AnotherThreadFreesABlock )
 TEST_F( MemoryTest, CountsOutliveTheirThreads )
 {
     const int64_t earlier = ko::ObjectCount();
-    ko::CountObject( 1 );
+    const ko::Block here = ko::Allocate( 10 );
     EXPECT_EQ( ko::ObjectCount(), earlier + 1 );
-    std::thread( [] { ko::CountObject( 1 ); } ).join();
+    ko::Block there{};
+    std::thread( [&] { there = ko::Allocate( 10 ); } ).join();
     EXPECT_EQ( ko::ObjectCount(), earlier + 2 );
-    std::thread( [] {
-        ko::CountObject( -1 );
-        ko::CountObject( -1 );
+    std::thread( [&] {
+        ko::Free( here.memory, here.blockClass );
+        ko::Free( there.memory, there.blockClass );
     } ).join();
     EXPECT_EQ( ko::ObjectCount(), earlier );
+    const ko::Block constant = ko::Allocate( 10 );
+    ko::UncountObject();
+    EXPECT_EQ( ko::ObjectCount(), earlier );
+    ko::Free( constant.memory, constant.blockClass );
+    EXPECT_EQ( ko::ObjectCount(), earlier - 1 );
+    ++ko::Here()->objects; // as it was
 }
 
 TEST_F( MemoryTest, ManyThreadsComeAndGo )
 {
     const int64_t earlier = ko::ObjectCount();
-    std::atomic<int64_t> left = 0;
+    std::mutex lock;
+    std::vector<ko::Block> kept;
     for ( int round = 0; round < 50; ++round ) {
         std::vector<std::thread> threads;
         for ( int i = 0; i < 8; ++i ) {
@@ -154,19 +163,23 @@ TEST_F( MemoryTest, ManyThreadsComeAndGo )
                 for ( int32_t j = 0; j < 100; ++j ) {
                     const ko::Block block = ko::Allocate( static_cast<size_t>( 1 + i * 100 + j ) );
                     memset( block.memory, i, block.size );
-                    ko::CountObject( 1 );
-                    ko::Free( block.memory, block.blockClass );
+                    if ( j < i ) {
+                        const std::lock_guard guard( lock );
+                        kept.push_back( block );
+                    } else {
+                        ko::Free( block.memory, block.blockClass );
+                    }
                 }
-                ko::CountObject( -i );
-                left += 100 - i;
             } );
         }
         for ( std::thread &thread : threads ) {
             thread.join();
         }
-        EXPECT_EQ( ko::ObjectCount(), earlier + left );
+        EXPECT_EQ( ko::ObjectCount(), earlier + static_cast<int64_t>( kept.size() ) );
     }
-    ko::CountObject( static_cast<int32_t>( -left ) );
+    for ( const ko::Block &block : kept ) {
+        ko::Free( block.memory, block.blockClass );
+    }
     EXPECT_EQ( ko::ObjectCount(), earlier );
 }
 
