@@ -104,7 +104,7 @@ class Tables:
         for field, result in getters.items():
             set_it = 'SET( %s, %s )' % (type_name, field) if mutators.get('Set' + field) == [result] else 'nullptr'
             del_it = 'DEL( %s, %s )' % (type_name, field) if mutators.get('Del' + field) == [] else 'nullptr'
-            done.update({'Set' + field, 'Del' + field})
+            done.update(['Set' + field] * (set_it != 'nullptr') + ['Del' + field] * (del_it != 'nullptr'))
             self.rows.append('    FIELD( %s, %s, %s, %s )' % (type_name, field, set_it, del_it))
         for name, arguments in mutators.items():
             if name in done or name in skipped or re.search(r'(Cstr|Wcstr)$', name):
@@ -165,7 +165,8 @@ class Tables:
             else:
                 self.rows.append('    TOKEN_LIST( Header%s, %s, %s )' % (header, word, clears[0]))
             return
-        words = [n[len(prefix):-2] for n in self.names if n.startswith(prefix) and n.endswith('At')]
+        words = [n[len(prefix):-2] for n in self.names if n.startswith(prefix) and n.endswith('At') and
+                 self.functions[n][1] == ['TolmoHeader' + header, 'KoInt']]
         if words:
             word = words[0]
             self.fields('Header' + header, {'Set' + word, 'Del' + word, 'Clear%ss' % word, 'Set%ssVector' % word})

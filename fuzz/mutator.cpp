@@ -58,7 +58,7 @@ public:
         ++sources;
     }
 
-    // Runs the choices, and checks all handles behind each.
+    // Runs the choices. Behind each, checks the changed handle and those that had the same object; at the end, all.
     void Run( Choices choices )
     {
         if ( handles.empty() ) {
@@ -71,6 +71,7 @@ public:
             const size_t acted = sources + choices.Below( handles.size() - sources );
             const size_t from = choices.Below( handles.size() );
             const size_t what = choices.Below( 8 );
+            const KoObj object = handles[acted].object.Get();
             if ( what == 0 && handles.size() < 10 ) {
                 Share( acted );
             } else if ( items && what < 6 ) {
@@ -78,9 +79,15 @@ public:
             } else {
                 ChangeField( handles[acted], handles[from].object.Get(), choices );
             }
-            for ( size_t i = 0; i < handles.size(); ++i ) {
-                CheckHandle( handles[i] );
+            CheckHandle( handles[acted] );
+            for ( const Handle &handle : handles ) {
+                if ( handle.object.Get() == object ) {
+                    CheckHandle( handle );
+                }
             }
+        }
+        for ( const Handle &handle : handles ) {
+            CheckHandle( handle );
         }
     }
 
@@ -150,6 +157,11 @@ private:
         } else if ( field.set && wanted != "(null)" && wanted != "-1" ) {
             Change( handle, [&]( KoObj *x ) { CHECK( field.set( x, from ) ); } );
             CHECK_SAME( field.get( handle.object.Get() ), wanted );
+            if ( items ) { // all items at once
+                handle.items = ItemTexts( *items, from );
+                handle.fields = Snapshot( type, from );
+                return;
+            }
             Expect( handle, field.name, wanted, "true" );
         }
     }
