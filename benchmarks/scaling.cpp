@@ -357,7 +357,7 @@ const Work works[] = {
               tolmoHeaderViaInsertVia( vias.Address(), 1 + i, via.Get() );
           }
       } },
-    { "list: items deleted from the front", 5000,
+    { "list: items deleted from the front", 20000,
       []( KoInt n ) {
           auto vias = Vias( n );
           const Counted counted;
@@ -365,7 +365,7 @@ const Work works[] = {
               tolmoHeaderViaDelViaAt( vias.Address(), 0 );
           }
       } },
-    { "list: items deleted from the end", 5000,
+    { "list: items deleted from the end", 20000,
       []( KoInt n ) {
           auto vias = Vias( n );
           const Counted counted;
@@ -402,6 +402,16 @@ const Work works[] = {
               tolmoHeaderSupportedDelOptionTag( tags.Address(), Number( i ).Get() );
           }
       } },
+    { "set: words deleted behind the first", 5000,
+      []( KoInt n ) {
+          auto tags = Own( tolmoHeaderSupportedCreate() );
+          tolmoHeaderSupportedSetOptionTagsVector( tags.Address(), Vector( n ).Get() );
+          const Counted counted;
+          for ( KoInt i = 1; i < n; ++i ) {
+              tolmoHeaderSupportedDelOptionTag( tags.Address(), Number( i ).Get() );
+          }
+          CHECK( tolmoHeaderSupportedOptionTagsLength( tags.Get() ) == 1 );
+      } },
     { "set: words deleted from the end", 5000,
       []( KoInt n ) {
           auto tags = Own( tolmoHeaderSupportedCreate() );
@@ -423,7 +433,7 @@ const Work works[] = {
               tolmoGenericParamsDelParam( params.Address(), Number( i ).Get() );
           }
       } },
-    { "parameters: compared in another order", 5000,
+    { "parameters: compared in another order", 20000,
       []( KoInt n ) {
           auto a = Own( tolmoGenericParamsCreate() );
           auto b = Own( tolmoGenericParamsCreate() );

@@ -44,7 +44,8 @@ TEST_F( CallersTest, AHeaderThatIsThereAndDoesNotDecode )
     const auto msg = Received( "Max-Forwards: many\r\n" );
     ASSERT_TRUE( tolmoHeaderMaxForwardsPresentInMessage( msg.Get() ) );
     const auto hops = Own( tolmoHeaderMaxForwardsTryDecodeFromMessage( msg.Get() ) );
-    EXPECT_ABORT( tolmoHeaderMaxForwardsMaxForwards( hops.Get() ), "source/tolmo/tolmo_header_max_forwards.cpp", "hdr" );
+    EXPECT_ABORT( tolmoHeaderMaxForwardsMaxForwards( hops.Get() ), "source/tolmo/tolmo_header_max_forwards.cpp",
+                  "hdr" );
 
     const KoInt left = hops ? tolmoHeaderMaxForwardsMaxForwards( hops.Get() ) : 70;
     EXPECT_EQ( left, 70 );
@@ -75,9 +76,9 @@ TEST_F( CallersTest, TheClassOfARequest )
 {
     const auto msg = Received( "" );
     const KoInt code = tolmoMessageResponseStatusCode( msg.Get() );
-    EXPECT_ABORT( tolmoStatusCodeIsSuccessful( code ), "source/tolmo/tolmo_status_code.cpp", "tolmoStatusCodeOk( sc )" );
+    EXPECT_ABORT( tolmoStatusCodeSuccess( code ), "source/tolmo/tolmo_status_code.cpp", "tolmoStatusCodeOk( sc )" );
 
-    EXPECT_FALSE( tolmoMessageIsResponse( msg.Get() ) && tolmoStatusCodeIsSuccessful( code ) );
+    EXPECT_FALSE( tolmoMessageIsResponse( msg.Get() ) && tolmoStatusCodeSuccess( code ) );
 }
 
 TEST_F( CallersTest, AHeadWithoutStartLine )
@@ -95,7 +96,7 @@ TEST_F( CallersTest, ANameThatIsNoName )
     // Headers of a URI (RFC 3261 section 19.1.1) name header fields, in whatever words the peer likes.
     const auto msg = Received( "Refer-To: <sip:a?No%20name=1>\r\n" );
     const auto name = Str( "No name" );
-    EXPECT_ABORT( tolmoMessageHasHeader( msg.Get(), name.Get() ), "source/tolmo/tolmo_message.cpp",
+    EXPECT_ABORT( tolmoMessageHasHeader( msg.Get(), name.Get() ), "source/tolmo/tolmo_message_header.cpp",
                   "tolmoMessageHeaderNameOk( name )" );
 
     EXPECT_FALSE( tolmoMessageHeaderNameOk( name.Get() ) && tolmoMessageHasHeader( msg.Get(), name.Get() ) );
@@ -107,8 +108,8 @@ TEST_F( CallersTest, AWordThatIsNoParameter )
     const auto from = Own( tolmoHeaderFromTryDecodeFromMessage( msg.Get() ) );
     const auto params = Own( tolmoHeaderFromGenericParams( from.Get() ) );
     const auto word = Own( tolmoHeaderFromDisplayName( from.Get() ) );
-    EXPECT_ABORT( tolmoGenericParamsHasParam( params.Get(), word.Get() ), "source/tolmo/tolmo_generic_params.cpp",
-                  "tolmoGenericParamNameOk( name )" );
+    EXPECT_ABORT( tolmoGenericParamsHasParam( params.Get(), word.Get() ), "source/tolmo/tolmo_token.cpp",
+                  "tolmoTokenOk( token )" );
 
     EXPECT_FALSE( tolmoGenericParamNameOk( word.Get() ) && tolmoGenericParamsHasParam( params.Get(), word.Get() ) );
 }
@@ -125,7 +126,7 @@ TEST_F( CallersTest, AWordThatIsNoOptionTag )
     EXPECT_FALSE( tolmoOptionTagOk( word.Get() ) && tolmoHeaderSupportedHasOptionTag( tags.Get(), word.Get() ) );
 }
 
-TEST_F( CallersTest, ANumberThatHasCounteddown )
+TEST_F( CallersTest, ANumberThatHasCountedDown )
 {
     const auto msg = Received( "Max-Forwards: 0\r\n" );
     auto hops = Own( tolmoHeaderMaxForwardsTryDecodeFromMessage( msg.Get() ) );
@@ -156,14 +157,15 @@ TEST_F( CallersTest, ALineWithSingleLineEnds )
     const auto msg = Received( "Subject: a\nVia: SIP/2.0/UDP evil\r\n" );
     const auto raw = Own( tolmoMessageHeaderCstr( msg.Get(), "Subject", -1 ) );
     const auto line = Own( tolmoMessageHeaderLastLine( raw.Get() ) );
-    EXPECT_ABORT( tolmoHeaderSubjectCreate( line.Get() ), "source/tolmo/tolmo_header_subject.cpp",
-                  "tolmoSubjectOk( subject )" );
+    EXPECT_ABORT_MESSAGE( tolmoHeaderSubjectCreate( line.Get() ), "subject invalid", "source/tolmo/tolmo_subject.cpp",
+                          "tolmoSubjectOk( subject )" );
     EXPECT_NE( TakeBytes( tolmoMessageEncode( msg.Get() ) ).find( "\nVia: SIP/2.0/UDP evil\r\n" ), std::string::npos )
         << "what a peer that ends lines with LF takes for a Via";
 
     EXPECT_FALSE( tolmoSubjectOk( line.Get() ) );
     const KoChar ends[] = { KO_CHAR_LINE_FEED, KO_CHAR_CARRIAGE_RETURN };
-    const bool clean = koStringFindChars( line.Get(), 0, ends, 1 ) < 0 && koStringFindChars( line.Get(), 0, ends + 1, 1 ) < 0;
+    const bool clean =
+        koStringFindChars( line.Get(), 0, ends, 1 ) < 0 && koStringFindChars( line.Get(), 0, ends + 1, 1 ) < 0;
     EXPECT_FALSE( clean );
 }
 
@@ -171,7 +173,7 @@ TEST_F( CallersTest, ATextThatIsNoLine )
 {
     const auto msg = Own( tolmoMessageTryDecode( Buf( "SIP/2.0 200 OK\r\n\r\nv=0\r\ns=-\r\n" ).Get() ) );
     const auto body = Own( tolmoMessageBody( msg.Get() ) );
-    const auto text = Own( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, body.Get(), 0 ) );
+    const auto text = Own( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, body.Get(), 1 ) );
     auto header = Own( tolmoMessageHeaderCreateCstr( "X-Body", -1 ) );
     EXPECT_ABORT( tolmoMessageHeaderAppendLine( header.Address(), text.Get() ), "source/tolmo/tolmo_message_header.cpp",
                   "tolmoMessageHeaderLineOk( value )" );
@@ -183,7 +185,7 @@ TEST_F( CallersTest, ABodyThatIsNoText )
 {
     const auto msg = Own( tolmoMessageTryDecode( Buf( "SIP/2.0 200 OK\r\n\r\n\xFF" ).Get() ) );
     const auto body = Own( tolmoMessageBody( msg.Get() ) );
-    const auto text = Own( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, body.Get(), 0 ) );
+    const auto text = Own( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, body.Get(), 1 ) );
     EXPECT_ABORT( koStringBacking( text.Get() ), "source/runtime/ko_string.cpp", "s" );
 
     EXPECT_FALSE( text ) << "no message needs a body, and no body need be text";
@@ -196,7 +198,8 @@ TEST_F( CallersTest, ASubscriptionStateThatIsSharedAndChanged )
 
     auto wrong = KoRef<TolmoHeaderSubscriptionState>::Share( received.Get() );
     tolmoHeaderSubscriptionStateSetExpires( wrong.Address(), 60 ); // a copy, without parameters
-    EXPECT_ABORT( tolmoHeaderSubscriptionStateEncode( wrong.Get() ), "source/tolmo/tolmo_generic_params.cpp", "params" );
+    EXPECT_ABORT( tolmoHeaderSubscriptionStateEncode( wrong.Get() ), "source/tolmo/tolmo_generic_params.cpp",
+                  "params" );
 
     auto right = KoRef<TolmoHeaderSubscriptionState>::Share( received.Get() );
     const auto params = Own( tolmoHeaderSubscriptionStateGenericParams( right.Get() ) );
@@ -243,12 +246,16 @@ TEST_F( CallersTest, AStoreWithoutLines )
     EXPECT_FALSE( replaces );
 }
 
-// No fault of a caller, and so no line of the document: what looks as if it could end the process, and does not.
+// Not in the document: what looks as if it could end the process, and does not.
 TEST_F( CallersTest, APortOfManyDigits )
 {
     const auto msg = Received( "Via: SIP/2.0/UDP a;rport=9223372036854775808\r\n" );
     const auto vias = Own( tolmoHeaderViaTryDecodeFromMessage( msg.Get() ) );
-    EXPECT_TRUE( !vias || Own( tolmoHeaderViaTryDecodeViaAt( vias.Get(), 0 ) ) || true );
+    const auto via = Own( tolmoHeaderViaTryDecodeViaAt( vias.Get(), 0 ) );
+    ASSERT_TRUE( via );
+    EXPECT_FALSE( tolmoViaHasRportNumeric( via.Get() ) );
+    const auto params = Own( tolmoViaGenericParams( via.Get() ) );
+    EXPECT_TRUE( tolmoGenericParamsHasParamCstr( params.Get(), "rport", -1 ) );
 }
 
 } // namespace
