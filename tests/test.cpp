@@ -43,6 +43,9 @@ Ending RunInChild( const std::function<void()> &statement )
     return ending;
 }
 
+namespace {
+
+/** True when `line` is the abort line of `expression` in the file `path`, with `message`. */
 bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
                   std::string_view expression )
 {
@@ -56,6 +59,22 @@ bool IsAbortLine( const std::string &line, std::string_view message, std::string
         ++at;
     }
     return at > begin.size() && line.substr( at ) == ": " + std::string( expression );
+}
+
+} // namespace
+
+testing::AssertionResult Aborts( const char *text, const std::function<void()> &statement, std::string_view message,
+                                 std::string_view path, std::string_view expression )
+{
+    const Ending ending = RunInChild( statement );
+    if ( !ending.aborted ) {
+        return testing::AssertionFailure() << text << " did not abort";
+    }
+    if ( !IsAbortLine( ending.line, message, path, expression ) ) {
+        return testing::AssertionFailure() << text << "\n  wrote:    " << ending.line << "\n  expected: " << message
+                                           << ( message.empty() ? "" : ": " ) << path << ":*: " << expression;
+    }
+    return testing::AssertionSuccess();
 }
 
 } // namespace test
