@@ -1,6 +1,7 @@
 /* The headers of a message, in their order: as they were received, or as objects that a caller has set. */
 #include <tolmo/tolmo_header_table.hpp>
 
+#include <tolmo/tolmo_cstr.hpp>
 #include <tolmo/tolmo_wide.hpp>
 
 #include <runtime/ko_dict.h>
@@ -201,7 +202,7 @@ KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry
     auto lines = Adopt( koVectorCreate() );
     for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
         const RawLine &line = decoded->Lines()[i];
-        koVectorAppendString( lines.Address(), WideString( decoded->Text() + line.offset, line.length ).Get() );
+        AppendString( *lines.Address(), WideString( decoded->Text() + line.offset, line.length ) );
         if ( i == entry.lastLine ) {
             break;
         }
@@ -212,15 +213,15 @@ KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry
     return CreateMessageHeader( std::move( name ), std::move( lines ) );
 }
 
-void SetHeader( HeaderTable **table, TolmoMessageHeader header )
+void SetHeader( HeaderTable **table, KoRef<TolmoMessageHeader> header )
 {
     MakeUnique( table, CopyTable );
-    const HeaderKey key( header->name );
+    const HeaderKey key( header.Get()->name );
     if ( HeaderEntry *const entry = FindEntry( *table, key ) ) {
-        Store( entry->header, Share( header ) );
+        Store( entry->header, std::move( header ) );
         return;
     }
-    AppendEntry( table, { .header = Retained( header ),
+    AppendEntry( table, { .header = header.Leak(),
                           .firstLine = 0,
                           .lastLine = 0,
                           .nameOffset = 0,

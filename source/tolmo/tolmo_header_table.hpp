@@ -82,7 +82,7 @@ HeaderEntry *FindUnknownEntry( HeaderTable *table, const uint8_t *name, KoInt le
 KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry );
 
 /** Sets a header under its own name: the entry of that name keeps its place. Copies a shared table. */
-void SetHeader( HeaderTable **table, TolmoMessageHeader header );
+void SetHeader( HeaderTable **table, KoRef<TolmoMessageHeader> header );
 
 /** Removes the header of a name, if it is there. Copies a shared table. */
 void DeleteHeader( HeaderTable **table, const HeaderKey &key );

@@ -390,7 +390,7 @@ void tolmoMessageFragmentSetHeader( TolmoMessageFragment *frag, TolmoMessageHead
     KO_REQUIRE_HANDLE( frag );
     KO_REQUIRE( header );
     tolmo::MakeUnique( frag, tolmoMessageFragmentCreateFrom );
-    tolmo::SetHeader( &( *frag )->headers, header );
+    tolmo::SetHeader( &( *frag )->headers, tolmo::Share( header ) );
 }
 
 void tolmoMessageFragmentDelHeader( TolmoMessageFragment *frag, KoString name )
