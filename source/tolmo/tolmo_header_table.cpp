@@ -113,6 +113,7 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
 {
     HeaderTable *const copy = CreateHeaderTable( capacity, Share( table->decoded ) ).Leak();
     copy->count = table->count;
+    copy->deleted = table->deleted;
     copy->index = table->index ? table->index.Moved( capacity, 0 ) : ko::Index();
     memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
             static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
@@ -120,6 +121,27 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
         Retained( table->Entries()[i].header );
     }
     return copy;
+}
+
+/** Makes the index of a table's entries. */
+void MakeIndex( HeaderTable *table )
+{
+    table->index.Free();
+    table->index = ko::Index::Create( table->capacity );
+    for ( KoInt i = 0; i < table->count; ++i ) {
+        table->index.Add( HashOf( table, table->Entries()[i] ), i );
+    }
+}
+
+/** Closes the gaps of a large table. As half of it are gaps by then, a deletion costs no more than its share. */
+void DropDeleted( HeaderTable *table )
+{
+    HeaderEntry *const entries = table->Entries();
+    table->count = std::remove_if( entries, entries + table->count,
+                                   []( const HeaderEntry &e ) { return e.known == deletedName; } ) -
+                   entries;
+    table->deleted = 0;
+    MakeIndex( table );
 }
 
 HeaderTable *CopyTable( HeaderTable *table )
@@ -146,6 +168,7 @@ KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> dec
     auto *const table = reinterpret_cast<HeaderTable *>( ko___ObjCreateUncleared( size, &headerTableSort ) );
     table->decoded = decoded.Leak();
     table->count = 0;
+    table->deleted = 0;
     table->capacity = capacity;
     table->index = {};
     return Adopt( table );
@@ -159,6 +182,7 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
         HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
         std::swap( grown->decoded, own->decoded );
         std::swap( grown->count, own->count );
+        grown->deleted = own->deleted;
         grown->index = own->index ? own->index.Moved( grown->capacity, 0 ) : ko::Index();
         memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
                 static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
@@ -170,10 +194,7 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
     if ( own->index ) {
         own->index.Add( HashOf( own, entry ), own->count - 1 );
     } else if ( own->count > indexedFrom ) {
-        own->index = ko::Index::Create( own->capacity );
-        for ( KoInt i = 0; i < own->count; ++i ) {
-            own->index.Add( HashOf( own, own->Entries()[i] ), i );
-        }
+        MakeIndex( own );
     }
     return appended;
 }
@@ -237,17 +258,23 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
     MakeUnique( table, CopyTable );
     HeaderTable *const own = *table;
     HeaderEntry *const entry = FindEntry( own, key );
-    const KoInt place = entry - own->Entries();
-    if ( own->index ) {
-        own->index.Remove( HashOf( own, *entry ), place );
-        own->index.Shift( place + 1, -1 );
-    }
     if ( entry->header ) {
         ko___Release( tolmoMessageHeaderObj( entry->header ) );
     }
-    --own->count;
-    memmove( static_cast<void *>( entry ), entry + 1,
-             static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+    const KoInt place = entry - own->Entries();
+    if ( !own->index ) {
+        --own->count;
+        memmove( static_cast<void *>( entry ), entry + 1,
+                 static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+        return;
+    }
+    own->index.Remove( HashOf( own, *entry ), place );
+    entry->header = nullptr;
+    entry->known = deletedName;
+    ++own->deleted;
+    if ( own->deleted > own->count / 2 ) {
+        DropDeleted( own );
+    }
 }
 
 } // namespace tolmo

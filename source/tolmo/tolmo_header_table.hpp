@@ -56,10 +56,15 @@ struct HeaderKey {
     }
 };
 
+/** What stands in place of the NameId of an entry that was deleted from a large table: it is left out everywhere. */
+inline constexpr NameId deletedName = 0xFFFE;
+static_assert( knownNameCount <= deletedName && deletedName != unknownName );
+
 struct HeaderTable {
     ko___Obj head;
     DecodedHead *decoded; // may be null
-    KoInt count;
+    KoInt count;          // the deleted entries included
+    KoInt deleted;
     KoInt capacity;
     ko::Index index; // there once the table is large
 

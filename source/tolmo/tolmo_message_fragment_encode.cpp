@@ -89,7 +89,7 @@ public:
                 lengthWritten = true;
             } else if ( entry.header ) {
                 WriteHeader( output, entry.header );
-            } else {
+            } else if ( entry.known != deletedName ) {
                 WriteRawHeader( output, table->decoded, entry );
             }
         }
