@@ -43,9 +43,6 @@ Ending RunInChild( const std::function<void()> &statement )
     return ending;
 }
 
-namespace {
-
-/** True when `line` is the abort line of `expression` in the file `path`, with `message`. */
 bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
                   std::string_view expression )
 {
@@ -60,8 +57,6 @@ bool IsAbortLine( const std::string &line, std::string_view message, std::string
     }
     return at > begin.size() && line.substr( at ) == ": " + std::string( expression );
 }
-
-} // namespace
 
 testing::AssertionResult Aborts( const char *text, const std::function<void()> &statement, std::string_view message,
                                  std::string_view path, std::string_view expression )

@@ -94,6 +94,10 @@ struct Ending {
 /** Runs a statement in a child process. */
 Ending RunInChild( const std::function<void()> &statement );
 
+/** True when `line` is the abort line of `expression` in the file `path`, with `message`, whatever its line number. */
+bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
+                  std::string_view expression );
+
 /**
  * Success when a statement aborts with exactly the line of `expression` in the file `path` (whatever the line number),
  * with `message` in front. `text` is the statement, for the report.
