@@ -258,18 +258,17 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
     MakeUnique( table, CopyTable );
     HeaderTable *const own = *table;
     HeaderEntry *const entry = FindEntry( own, key );
-    if ( entry->header ) {
-        ko___Release( tolmoMessageHeaderObj( entry->header ) );
-    }
     const KoInt place = entry - own->Entries();
+    if ( own->index ) {
+        own->index.Remove( HashOf( own, *entry ), place );
+    }
+    Store( entry->header, {} );
     if ( !own->index ) {
         --own->count;
         memmove( static_cast<void *>( entry ), entry + 1,
                  static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
         return;
     }
-    own->index.Remove( HashOf( own, *entry ), place );
-    entry->header = nullptr;
     entry->known = deletedName;
     ++own->deleted;
     if ( own->deleted > own->count / 2 ) {
