@@ -11,7 +11,7 @@ namespace tools {
 
 enum class Framing { guessed, datagram, stream };
 
-/** Why a file was not read to its end, and where. */
+/** Why a message was refused, and where. */
 struct Refusal {
     int64_t offset;   // of the byte at which the refused text begins
     std::string text; // its start
@@ -24,6 +24,8 @@ struct Events {
     /** Gets each message, and the offset of its first byte. */
     std::function<void( TolmoMessage, int64_t offset )> message;
     std::function<void( const Refusal & )> refusal;
+    /** Gets the errno of what could not be read. */
+    std::function<void( int error )> unreadable;
     /** Gets the number of bytes read so far, now and then. */
     std::function<void( int64_t bytes )> progress;
 };

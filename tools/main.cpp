@@ -3,6 +3,7 @@
 #include "print.hpp"
 #include "typed.hpp"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstring>
@@ -28,7 +29,7 @@ constexpr char usage[] =
     "  --version              print the version\n"
     "  --help                 print this text\n"
     "\n"
-    "exit status: 0 all decoded, 1 something was refused, 2 bad usage, 3 a file could not be read\n";
+    "exit status: 0 all decoded, 1 something was refused, 2 bad usage, 3 something could not be read or written\n";
 
 enum class Word { decode, normalize };
 
@@ -100,22 +101,24 @@ int Run( const Options &options )
                               static_cast<long long>( refusal.offset ), tools::Printable( refusal.text ).c_str(),
                               refusal.reason );
             },
+            [&]( int error ) {
+                std::fflush( stdout );
+                std::fprintf( stderr, "tolmo: %s: cannot be read: %s\n", shown.c_str(), std::strerror( error ) );
+            },
             [&]( int64_t bytes ) { progress.Show( shown, bytes ); },
         };
         switch ( tools::ReadMessages( file, options.framing, events ) ) {
         case tools::Outcome::good:
             break;
         case tools::Outcome::refused:
-            status = status == 3 ? 3 : 1;
+            status = std::max( status, 1 );
             break;
         case tools::Outcome::unreadable:
-            std::fflush( stdout );
-            std::fprintf( stderr, "tolmo: %s: cannot be read: %s\n", shown.c_str(), std::strerror( errno ) );
             status = 3;
             break;
         }
     }
-    return std::fflush( stdout ) == 0 ? status : 3;
+    return status;
 }
 
 int ListHeaders()
@@ -124,6 +127,16 @@ int ListHeaders()
         std::printf( "%-26s %s\n", header.name, header.reference );
     }
     return 0;
+}
+
+/** The status of a run, unless its output could not be written. */
+int Finish( int status )
+{
+    if ( std::fflush( stdout ) == 0 && !std::ferror( stdout ) ) {
+        return status;
+    }
+    std::fprintf( stderr, "tolmo: standard output cannot be written\n" );
+    return 3;
 }
 
 } // namespace
@@ -147,10 +160,10 @@ int main( int argc, char **argv )
             onlyFiles = true;
         } else if ( argument == "--help" || argument == "-h" ) {
             std::fputs( usage, stdout );
-            return 0;
+            return Finish( 0 );
         } else if ( argument == "--version" ) {
             std::printf( "%s\n", tolmo___module_version_string );
-            return 0;
+            return Finish( 0 );
         } else if ( argument == "--datagram" ) {
             options.framing = tools::Framing::datagram;
         } else if ( argument == "--stream" ) {
@@ -168,14 +181,14 @@ int main( int argc, char **argv )
     }
     options.colored = color == "always" || ( color == "auto" && isatty( STDOUT_FILENO ) != 0 );
     if ( options.files.empty() ) {
-        options.files.push_back( "-" );
+        options.files.emplace_back( "-" );
     }
     if ( word == "headers" ) {
-        return ListHeaders();
+        return Finish( ListHeaders() );
     }
     if ( word != "decode" && word != "normalize" ) {
         return BadUsage( word.empty() ? "a word is missing" : "unknown word " + word );
     }
     options.word = word == "decode" ? Word::decode : Word::normalize;
-    return Run( options );
+    return Finish( Run( options ) );
 }

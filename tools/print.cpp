@@ -3,21 +3,57 @@
 
 #include "typed.hpp"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace tools {
 
+namespace {
+
+/** True for what acts on a terminal instead of being shown: controls, and what turns the direction of text. */
+bool IsControl( KoChar ch )
+{
+    return ch < 0x20 || ( ch >= 0x7F && ch < 0xA0 ) || ch == 0x200E || ch == 0x200F ||
+           ( ch >= 0x2028 && ch <= 0x202E ) || ( ch >= 0x2066 && ch <= 0x2069 );
+}
+
+KoRef<KoString> TryDecodeUtf8( KoBuffer bytes )
+{
+    return KoRef<KoString>::Adopt( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, bytes, 1 ) );
+}
+
+void AppendEscape( std::string &to, const char *format, unsigned value )
+{
+    char escape[16];
+    std::snprintf( escape, sizeof escape, format, value );
+    to += escape;
+}
+
+} // namespace
+
 std::string Printable( const std::string &text )
 {
+    const auto bytes =
+        KoRef<KoBuffer>::Adopt( koBufferCreateFromBytesCopy( text.data(), static_cast<KoInt>( text.size() ) ) );
+    const auto decoded = TryDecodeUtf8( bytes.Get() );
     std::string shown;
-    for ( const char ch : text ) {
-        const auto byte = static_cast<unsigned char>( ch );
-        if ( byte >= 0x20 && byte != 0x7F ) {
-            shown += ch;
+    if ( !decoded ) {
+        for ( const char ch : text ) {
+            const auto byte = static_cast<unsigned char>( ch );
+            if ( byte < 0x80 && !IsControl( byte ) ) {
+                shown += ch;
+            } else {
+                AppendEscape( shown, "\\x%02X", byte );
+            }
+        }
+        return shown;
+    }
+    for ( KoInt i = 0; i < koStringLength( decoded.Get() ); ++i ) {
+        const KoChar ch = koStringCharAt( decoded.Get(), i );
+        if ( !IsControl( ch ) ) {
+            shown += Text( &ch, 1 );
         } else {
-            char escape[5];
-            std::snprintf( escape, sizeof escape, "\\x%02X", byte );
-            shown += escape;
+            AppendEscape( shown, ch < 0x80 ? "\\x%02X" : "\\u%04X", static_cast<unsigned>( ch ) );
         }
     }
     return shown;
@@ -38,10 +74,10 @@ void Put( const std::string &line )
     std::fputc( '\n', stdout );
 }
 
-/** True for bytes that a terminal can show: good UTF-8 without controls other than tabs and line ends. */
+/** True for text: good UTF-8 without controls other than tabs and line ends. */
 bool IsText( KoBuffer body )
 {
-    const auto text = KoRef<KoString>::Adopt( koCharsetTryConvertBufferToStringWithFlags( KO_CHARSET_UTF8, body, 1 ) );
+    const auto text = TryDecodeUtf8( body );
     if ( !text ) {
         return false;
     }

@@ -89,15 +89,15 @@ KO_API KoBool ulmGensValidatePart( KoInt part, KoString iri );
 KO_API KoString ulmTryConvertFromUri( KoString uri );
 
 /**
- * ulmTryConvertFromUri on an array, for callers that have no string of the text: the result is the only one made.
+ * Takes the longest URI at the start of an array, in its IRI form: ulm___SkipIri and ulmTryConvertFromUri in one pass.
  *
- * @param chs The characters; may be null when there are none.
- * @param length How many.
- * @return new reference; null when the text is no resource identifier.
+ * @param taken Receives a new reference, or null when there is no URI.
+ * @return The number of characters taken; 0 when there is none.
  * @pre length >= 0
  * @pre chs || length == 0
+ * @pre taken
  */
-KO_API KoString ulm___TryConvertFromUriChars( const KoChar *chs, KoInt length );
+KO_API KoInt ulm___TakeIri( const KoChar *chs, KoInt length, KoString *taken );
 
 /**
  * The URI form of an IRI (RFC 3987, section 3.1), which is ASCII only: other characters become the escapes of their

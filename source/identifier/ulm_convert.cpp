@@ -203,15 +203,15 @@ void AddUnicodeHost( Text host, Output &out )
     }
 }
 
-/** `same` is the string of the text, or null if there is none. */
-KoString TryConvertFromUri( Text uri, KoString same )
+/** The IRI form of an identifier that was read. `same` is the string of the text, or null if there is none. */
+KoString ConvertFromUri( const Iri &iri, Text uri, KoString same )
 {
-    const Iri iri = Read( uri.chs, uri.length );
-    if ( iri.length == 0 || iri.length != uri.length ) {
-        return nullptr;
+    const bool plain = iri.ascii && iri.asciiEscapes;
+    if ( plain && !iri.hyphen ) {
+        return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
     }
     const Host host( iri, uri.chs );
-    if ( iri.ascii && iri.asciiEscapes && !host.encoded ) {
+    if ( plain && !host.encoded ) {
         return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
     }
     Output out;
@@ -227,14 +227,19 @@ KoString TryConvertFromUri( Text uri, KoString same )
 KoString ulmTryConvertFromUri( KoString uri )
 {
     KO_REQUIRE( uri );
-    return ulm::TryConvertFromUri( { ko::Chars( uri ), uri->length }, uri );
+    const ulm::Iri iri = ulm::Read( ko::Chars( uri ), uri->length );
+    const bool whole = iri.length > 0 && iri.length == uri->length;
+    return whole ? ulm::ConvertFromUri( iri, { ko::Chars( uri ), uri->length }, uri ) : nullptr;
 }
 
-KoString ulm___TryConvertFromUriChars( const KoChar *chs, KoInt length )
+KoInt ulm___TakeIri( const KoChar *chs, KoInt length, KoString *taken )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    return ulm::TryConvertFromUri( { chs, length }, nullptr );
+    KO_REQUIRE( taken );
+    const ulm::Iri iri = ulm::Read( chs, length );
+    *taken = iri.length > 0 ? ulm::ConvertFromUri( iri, { chs, iri.length }, nullptr ) : nullptr;
+    return iri.length;
 }
 
 KoString ulmTryConvertToUri( KoString iri )

@@ -16,6 +16,7 @@ enum CharClass : uint8_t {
     charPlain = 1u << 2, // characters of an identifier without a meaning to it
     charHex = 1u << 3,
     charHostMark = 1u << 4, // the end of a host, and the dot
+    charHyphen = 1u << 5,
 };
 
 consteval std::array<uint8_t, 128> MakeCharTable()
@@ -31,6 +32,7 @@ consteval std::array<uint8_t, 128> MakeCharTable()
     add( charScheme | charPlain, "0123456789+-." );
     add( charPlain, "_~!$&'()*,;=:/[]" );
     add( charHostMark, ".:;?#/" );
+    add( charHyphen, "-" );
     add( charHex, "0123456789ABCDEFabcdef" );
     return table;
 }
@@ -43,12 +45,19 @@ inline bool Is( KoChar ch, CharClass charClass )
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & charClass ) != 0;
 }
 
-/** True when each of four characters is in the class: a run of them costs one branch for four. */
-inline bool AreFour( const KoChar *chs, CharClass charClass )
+/** True when each of four characters is plain: a run of them costs one branch for four. Adds their classes to `seen`. */
+inline bool AreFourPlain( const KoChar *chs, unsigned &seen )
 {
     const auto at = [&]( int i ) { return static_cast<uint32_t>( chs[i] ); };
-    return ( at( 0 ) | at( 1 ) | at( 2 ) | at( 3 ) ) < charTable.size() &&
-           ( charTable[at( 0 )] & charTable[at( 1 )] & charTable[at( 2 )] & charTable[at( 3 )] & charClass ) != 0;
+    if ( ( at( 0 ) | at( 1 ) | at( 2 ) | at( 3 ) ) >= charTable.size() ) {
+        return false;
+    }
+    const unsigned a = charTable[at( 0 )];
+    const unsigned b = charTable[at( 1 )];
+    const unsigned c = charTable[at( 2 )];
+    const unsigned d = charTable[at( 3 )];
+    seen |= a | b | c | d;
+    return ( a & b & c & d & charPlain ) != 0;
 }
 
 /** ucschar of RFC 3987. */
@@ -81,6 +90,7 @@ struct Iri {
     bool secondAt = false;
     bool ascii = true;        // no other character
     bool asciiEscapes = true; // and none that is escaped
+    bool hyphen = false;      // one was seen, so that there may be an xn-- label
 };
 
 /** Reads the longest identifier at the start of a text, in one pass. */
@@ -100,14 +110,19 @@ inline Iri Read( const KoChar *chs, KoInt length )
     iri.colon = i++;
     bool query = false;
     bool fragment = false;
-    for ( ; i < length; ++i ) {
-        while ( length - i > 4 && AreFour( chs + i, charPlain ) ) {
+    unsigned seen = 0;
+    for ( ;; ++i ) {
+        while ( length - i >= 4 && AreFourPlain( chs + i, seen ) ) {
             i += 4;
         }
-        const KoChar ch = chs[i];
-        if ( Is( ch, charPlain ) ) {
-            continue;
+        while ( i < length && Is( chs[i], charPlain ) ) {
+            seen |= charTable[static_cast<size_t>( chs[i] )];
+            ++i;
         }
+        if ( i == length ) {
+            break;
+        }
+        const KoChar ch = chs[i];
         if ( ch == '@' ) {
             iri.secondAt = iri.at >= 0;
             iri.at = iri.at >= 0 ? iri.at : i;
@@ -124,6 +139,7 @@ inline Iri Read( const KoChar *chs, KoInt length )
             break;
         }
     }
+    iri.hyphen = ( seen & charHyphen ) != 0;
     iri.length = i;
     return iri;
 }

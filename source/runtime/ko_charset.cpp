@@ -51,11 +51,14 @@ KoInt koCharsConvertToUtf8( void *out, KoInt capacity, const KoChar *chs, KoInt 
     KO_REQUIRE( length >= -1 );
     KO_REQUIRE( !reserved );
     const KoInt count = ko::TextLength( chs, length );
-    const KoInt need = ko::Utf8Length( chs, count );
-    if ( need > capacity ) {
-        return need;
+    if ( capacity / 4 < count ) { // otherwise every text fits, and need not be counted first
+        const KoInt need = ko::Utf8Length( chs, count );
+        if ( need > capacity ) {
+            return need;
+        }
     }
-    auto *to = static_cast<uint8_t *>( out );
+    auto *const begin = static_cast<uint8_t *>( out );
+    uint8_t *to = begin;
     for ( KoInt i = 0; i < count; ) {
         const KoInt ascii = ko::NarrowAscii( to, chs + i, count - i );
         i += ascii;
@@ -64,5 +67,5 @@ KoInt koCharsConvertToUtf8( void *out, KoInt capacity, const KoChar *chs, KoInt 
             to += ko::EncodeUtf8( to, chs[i] );
         }
     }
-    return need;
+    return to - begin;
 }

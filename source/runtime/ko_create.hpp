@@ -16,7 +16,7 @@ inline KoObj CreateObject( size_t size, KoSort sort, size_t &usable )
     obj->sort = sort;
     obj->count = 1;
     obj->blockClass = block.blockClass;
-    usable = block.size;
+    usable = block.Usable( size );
     return obj;
 }
 

@@ -35,10 +35,11 @@ constexpr bool keepsBlocks = true;
 constexpr bool keepsBlocks = true;
 #endif
 
+/** The class of a size that is not 0. */
 constexpr int32_t ClassOf( size_t size )
 {
-    if ( size <= smallLimit ) {
-        return static_cast<int32_t>( ( size + step - 1 ) / step ) - 1;
+    if ( __builtin_expect( size <= smallLimit, 1 ) ) {
+        return static_cast<int32_t>( ( size - 1 ) / step );
     }
     const unsigned top = static_cast<unsigned>( std::bit_width( size - 1 ) ) - 1; // 2^top < size <= 2^(top+1)
     const size_t quarter = ( size - 1 ) >> ( top - 2 ) & 3;
@@ -67,6 +68,7 @@ struct FreeList {
     FreeBlock *first;
     uint32_t length;
     uint32_t limit;
+    uint32_t size; // of its blocks
 };
 
 /** What a thread has of its own. Threads are linked, so that the counts can be added up. */
@@ -87,7 +89,7 @@ pthread_once_t threadKeyOnce = PTHREAD_ONCE_INIT;
 thread_local Thread *here __attribute__( ( tls_model( "initial-exec" ) ) ) = nullptr;
 
 /** malloc, which does not fail. */
-void *AllocateMemory( size_t size )
+[[gnu::noinline]] void *AllocateMemory( size_t size )
 {
     void *const block = malloc( size );
     KO_REQUIRE_MESSAGE( block, "out of memory", "block" );
@@ -126,6 +128,7 @@ void MakeThreadKey()
     for ( int32_t i = 0; i < classes; ++i ) {
         const size_t fitting = keptBytes / SizeOf( i );
         thread->lists[i].limit = fitting > keptBlocks ? static_cast<uint32_t>( fitting ) : keptBlocks;
+        thread->lists[i].size = static_cast<uint32_t>( SizeOf( i ) );
     }
     pthread_once( &threadKeyOnce, MakeThreadKey );
     pthread_setspecific( threadKey, thread );
@@ -151,18 +154,18 @@ Block Allocate( size_t size )
 {
     Thread *const thread = Here();
     ++thread->objects;
-    const int32_t blockClass = size > largeLimit || !keepsBlocks ? noClass : ClassOf( size );
-    if ( blockClass == noClass ) {
-        return { AllocateMemory( size ), noClass, size };
+    if ( size > largeLimit || !keepsBlocks ) {
+        return { AllocateMemory( size ), noClass, 0 };
     }
+    const int32_t blockClass = ClassOf( size );
     FreeList &list = thread->lists[blockClass];
     FreeBlock *const block = list.first;
-    if ( !block ) {
-        return { AllocateMemory( SizeOf( blockClass ) ), blockClass, SizeOf( blockClass ) };
+    if ( __builtin_expect( !block, 0 ) ) {
+        return { AllocateMemory( list.size ), blockClass, list.size };
     }
     list.first = block->next;
     --list.length;
-    return { block, blockClass, SizeOf( blockClass ) };
+    return { block, blockClass, list.size };
 }
 
 void Free( void *memory, int32_t blockClass )

@@ -7,11 +7,14 @@
 
 namespace ko {
 
-/** A block and the size class that it has to be given back with. */
+/** A block and the size class that it has to be given back with. Comes in two registers. */
 struct Block {
     void *memory;
     int32_t blockClass;
-    size_t size; // what may be used; at least what was asked for
+    uint32_t classSize; // what may be used of a block of a class; 0 where there is no class
+
+    /** What may be used: at least what was asked for. */
+    [[nodiscard]] size_t Usable( size_t asked ) const { return classSize ? classSize : asked; }
 };
 
 /** A block for an object of at least `size` bytes, not cleared. Never null: the process ends when memory is exhausted. */

@@ -66,6 +66,15 @@ inline KoInt WidenAscii( KoChar *to, const uint8_t *from, KoInt length )
         _mm_storeu_si128( out + 2, _mm_unpacklo_epi16( high, zero ) );
         _mm_storeu_si128( out + 3, _mm_unpackhi_epi16( high, zero ) );
     }
+    for ( ; length - i >= 4; i += 4 ) {
+        int four = 0;
+        memcpy( &four, from + i, sizeof four );
+        if ( four & static_cast<int>( 0x80808080 ) ) {
+            break;
+        }
+        const __m128i low = _mm_unpacklo_epi8( _mm_cvtsi32_si128( four ), zero );
+        _mm_storeu_si128( reinterpret_cast<__m128i *>( to + i ), _mm_unpacklo_epi16( low, zero ) );
+    }
 #else
     for ( uint64_t block; length - i >= 8; i += 8 ) {
         memcpy( &block, from + i, sizeof block );
@@ -101,6 +110,15 @@ inline KoInt NarrowAscii( uint8_t *to, const KoChar *from, KoInt length )
         }
         _mm_storeu_si128( reinterpret_cast<__m128i *>( to + i ),
                           _mm_packus_epi16( _mm_packs_epi32( a, b ), _mm_packs_epi32( c, d ) ) );
+    }
+    for ( ; length - i >= 4; i += 4 ) {
+        const __m128i a = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from + i ) );
+        if ( _mm_movemask_epi8( _mm_cmpeq_epi32( _mm_and_si128( a, beyond ), _mm_setzero_si128() ) ) != 0xFFFF ) {
+            break;
+        }
+        const __m128i words = _mm_packs_epi32( a, a );
+        const int four = _mm_cvtsi128_si32( _mm_packus_epi16( words, words ) );
+        memcpy( to + i, &four, sizeof four );
     }
 #endif
     for ( ; i < length && static_cast<uint32_t>( from[i] ) < 0x80; ++i ) {

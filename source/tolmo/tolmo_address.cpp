@@ -22,10 +22,25 @@ void TakeDisplayName( Walk &w, Address &address )
     address.displayName = Adopt( tolmo___DisplayNameTryDecode( name.chs, name.length ) );
 }
 
+bool TakeIri( Walk &w, Address &address, Extent extent )
+{
+    const Text rest = w.Rest();
+    KoString iri = nullptr;
+    w.Take( ulm___TakeIri( rest.chs, extent( rest ), &iri ) );
+    address.iri = Adopt( iri );
+    return static_cast<bool>( address.iri );
+}
+
 bool TakeBracketedIri( Walk &w, Address &address )
 {
     address.bracketed = w.Need( skip::Laquot );
-    return address.bracketed && TakeIri( w, address, skip::Uri ) && w.Need( skip::Raquot );
+    return address.bracketed && TakeIri( w, address, WholeText ) && w.Need( skip::Raquot );
+}
+
+bool TakeAddress( Walk &w, Address &address, Extent bare )
+{
+    TakeDisplayName( w, address );
+    return TakeBracketedIri( w, address ) || ( !address.bracketed && TakeIri( w, address, bare ) );
 }
 
 void AddBracketedIri( Builder &text, KoString iri )

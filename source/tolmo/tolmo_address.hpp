@@ -18,28 +18,29 @@ struct Address {
 /** Takes a display name, if `<` stands behind it: otherwise what looks like one is the beginning of a bare address. */
 void TakeDisplayName( Walk &w, Address &address );
 
-/** Takes an IRI. What `skip` does not take is an empty text, which the conversion refuses. */
-template <class Skip>
-bool TakeIri( Walk &w, Address &address, Skip skip )
+/** How far an IRI may go in what is left of a text. */
+using Extent = KoInt ( * )( Text rest );
+
+/** As far as it likes: inside angle brackets. */
+inline KoInt WholeText( Text rest )
 {
-    w.Maybe( skip );
-    address.iri = Adopt( ulm___TryConvertFromUriChars( w.Last().chs, w.Last().length ) );
-    return static_cast<bool>( address.iri );
+    return rest.length;
 }
+
+/** To the first semicolon: a bare address leaves all parameters to what it stands in. */
+inline KoInt ToSemicolon( Text rest )
+{
+    return skip::AddrSpecExtent( rest.chs, rest.length );
+}
+
+/** Takes an IRI, in one pass. False when there is none. */
+bool TakeIri( Walk &w, Address &address, Extent extent );
 
 /** Takes `<`, an IRI and `>`. False when one of them is not there; `bracketed` tells whether it began at all. */
 bool TakeBracketedIri( Walk &w, Address &address );
 
-/**
- * Takes an address: `[ display-name ] "<" IRI ">"`, or a bare IRI that `skipBare` takes, as skip::AddrSpec, which looks
- * no further than the first semicolon. False when there is none.
- */
-template <class SkipBare>
-bool TakeAddress( Walk &w, Address &address, SkipBare skipBare )
-{
-    TakeDisplayName( w, address );
-    return TakeBracketedIri( w, address ) || ( !address.bracketed && TakeIri( w, address, skipBare ) );
-}
+/** Takes an address: `[ display-name ] "<" IRI ">"`, or a bare IRI of an extent. False when there is none. */
+bool TakeAddress( Walk &w, Address &address, Extent bare );
 
 /** Adds an IRI in its URI form in angle brackets, which are always written. */
 void AddBracketedIri( Builder &text, KoString iri );

@@ -423,7 +423,7 @@ TolmoContact tolmo___ContactTryDecode( const KoChar *chs, KoInt length )
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
     tolmo::Address address;
-    if ( !tolmo::TakeAddress( w, address, skip::AddrSpec ) ) {
+    if ( !tolmo::TakeAddress( w, address, tolmo::ToSemicolon ) ) {
         return nullptr;
     }
     auto contact = Create( std::move( address.iri ), std::move( address.displayName ) );

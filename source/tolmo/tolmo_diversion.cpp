@@ -312,7 +312,7 @@ bool TakeWord( tolmo::Walk &w, std::string_view name, KoString &field )
     } );
 }
 
-/** One parameter, by the parsers in their order. */
+/** One parameter, by the parsers in their order. What the skip functions take, decodes: two digits are at most 99. */
 bool TakeParam( tolmo::Walk &w, TolmoDiversion diversion )
 {
     return TakeWord( w, "reason", diversion->reason ) ||
@@ -338,7 +338,7 @@ TolmoDiversion tolmo___DiversionTryDecode( const KoChar *chs, KoInt length )
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
     tolmo::Address address;
-    if ( !tolmo::TakeAddress( w, address, skip::AddrSpec ) ) {
+    if ( !tolmo::TakeAddress( w, address, tolmo::ToSemicolon ) ) {
         return nullptr;
     }
     auto diversion = Create( std::move( address.iri ), std::move( address.displayName ) );

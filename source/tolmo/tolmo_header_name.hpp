@@ -4,6 +4,7 @@
 
 #include <runtime/ko_inner.hpp>
 
+#include <array>
 #include <string_view>
 
 namespace tolmo {
@@ -108,6 +109,26 @@ consteval NameId KnownName( std::string_view name )
     }
     return id;
 }
+
+/** What stands before a value on the wire: the name, a colon and a blank, in a block that can be copied whole. */
+struct WireName {
+    char text[31];
+    uint8_t length;
+};
+
+consteval std::array<WireName, knownNameCount> MakeWireNames()
+{
+    std::array<WireName, knownNameCount> wire{};
+    for ( size_t id = 0; id < knownNameCount; ++id ) {
+        for ( const char ch : knownNames[id] ) {
+            wire[id].text[wire[id].length++] = ch;
+        }
+        wire[id].text[wire[id].length++] = ':';
+        wire[id].text[wire[id].length++] = ' ';
+    }
+    return wire;
+}
+inline constexpr std::array<WireName, knownNameCount> wireNames = MakeWireNames();
 
 inline constexpr NameId contentLengthName = KnownName( "Content-Length" );
 

@@ -21,12 +21,12 @@ KoRef<Header *> CreateParty( KoSort sort, KoRef<KoString> iri )
     return hdr;
 }
 
-/** Takes an address, a bare one by `skipBare`, as a new header. Null when there is none. */
-template <class Header, class SkipBare>
-KoRef<Header *> TakeParty( Walk &w, KoSort sort, SkipBare skipBare )
+/** Takes an address, a bare one of an extent, as a new header. Null when there is none. */
+template <class Header>
+KoRef<Header *> TakeParty( Walk &w, KoSort sort, Extent bare )
 {
     Address address;
-    if ( !TakeAddress( w, address, skipBare ) ) {
+    if ( !TakeAddress( w, address, bare ) ) {
         return {};
     }
     auto hdr = CreateParty<Header>( sort, std::move( address.iri ) );
@@ -46,7 +46,7 @@ template <class Header>
 KoRef<Header *> DecodeParty( Text line, KoSort sort )
 {
     Walk w( line );
-    auto hdr = TakeParty<Header>( w, sort, skip::AddrSpec );
+    auto hdr = TakeParty<Header>( w, sort, ToSemicolon );
     return hdr && TakeGenericParams( w, hdr.Get() ) ? std::move( hdr ) : KoRef<Header *>();
 }
 
@@ -65,7 +65,7 @@ template <class Header>
 KoRef<Header *> DecodeTaggedParty( Text line, KoSort sort )
 {
     Walk w( line );
-    auto hdr = TakeParty<Header>( w, sort, skip::AddrSpec );
+    auto hdr = TakeParty<Header>( w, sort, ToSemicolon );
     const auto takeParam = [&, party = hdr.Get()] {
         return TakeLifted( w, "tag", skip::Tag, [=]( Text value ) { return StoreText( party->tag, value ); } ) ||
                TakeLifted( w, "epid", skip::Epid, [=]( Text value ) { return StoreText( party->epid, value ); } ) ||

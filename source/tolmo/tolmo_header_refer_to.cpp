@@ -101,10 +101,9 @@ TolmoMessageHeader tolmoHeaderReferToEncode( TolmoHeaderReferTo hdr )
 
 namespace {
 
-template <class SkipBare>
-KoRef<TolmoHeaderReferTo> TakeParty( tolmo::Walk &w, SkipBare skipBare )
+KoRef<TolmoHeaderReferTo> TakeParty( tolmo::Walk &w, tolmo::Extent bare )
 {
-    return tolmo::TakeParty<HeaderReferTo>( w, &tolmo___sort_TOLMO_HEADER_REFER_TO, skipBare );
+    return tolmo::TakeParty<HeaderReferTo>( w, &tolmo___sort_TOLMO_HEADER_REFER_TO, bare );
 }
 
 // A bare address ends at its first semicolon, and parameters of the header follow. Where they do not, as in
@@ -113,12 +112,12 @@ KoRef<TolmoHeaderReferTo> TakeParty( tolmo::Walk &w, SkipBare skipBare )
 KoRef<TolmoHeaderReferTo> DecodeLine( tolmo::Text line )
 {
     tolmo::Walk first( line );
-    auto hdr = TakeParty( first, skip::AddrSpec );
+    auto hdr = TakeParty( first, tolmo::ToSemicolon );
     if ( !hdr || tolmo::TakeGenericParams( first, hdr.Get() ) ) {
         return hdr;
     }
     tolmo::Walk second( line );
-    hdr = TakeParty( second, skip::Uri );
+    hdr = TakeParty( second, tolmo::WholeText );
     return hdr && tolmo::TakeGenericParams( second, hdr.Get() ) ? std::move( hdr ) : KoRef<TolmoHeaderReferTo>();
 }
 

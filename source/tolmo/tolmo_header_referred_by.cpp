@@ -158,7 +158,7 @@ bool TakeParam( tolmo::Walk &w, TolmoHeaderReferredBy hdr )
 KoRef<TolmoHeaderReferredBy> DecodeLine( tolmo::Text line )
 {
     tolmo::Walk w( line );
-    auto hdr = tolmo::TakeParty<HeaderReferredBy>( w, &tolmo___sort_TOLMO_HEADER_REFERRED_BY, skip::AddrSpec );
+    auto hdr = tolmo::TakeParty<HeaderReferredBy>( w, &tolmo___sort_TOLMO_HEADER_REFERRED_BY, tolmo::ToSemicolon );
     const bool good = hdr && tolmo::TakeParams( w, [&] { return TakeParam( w, hdr.Get() ); } );
     return good ? std::move( hdr ) : KoRef<TolmoHeaderReferredBy>();
 }

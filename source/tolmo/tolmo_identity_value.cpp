@@ -103,7 +103,7 @@ TolmoIdentityValue tolmo___IdentityValueTryDecode( const KoChar *chs, KoInt leng
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
     tolmo::Address address;
-    if ( !tolmo::TakeAddress( w, address, tolmo::skip::AddrSpec ) || !w.AtEnd() ) {
+    if ( !tolmo::TakeAddress( w, address, tolmo::ToSemicolon ) || !w.AtEnd() ) {
         return nullptr;
     }
     return Create( std::move( address.iri ), std::move( address.displayName ) ).Leak();

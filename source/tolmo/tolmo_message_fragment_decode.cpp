@@ -182,8 +182,8 @@ StartLine DecodeStartLine( TolmoMessageFragment frag, Text line )
     if ( count < 3 || parts[0].length == 0 || skip::Method( parts[0].chs, parts[0].length ) != parts[0].length ) {
         return StartLine::none;
     }
-    auto iri = Adopt( ulm___TryConvertFromUriChars( parts[1].chs, parts[1].length ) );
-    if ( !iri ) {
+    KoRef<KoString> iri;
+    if ( ulm___TakeIri( parts[1].chs, parts[1].length, iri.Address() ) != parts[1].length || !iri ) {
         return StartLine::bad;
     }
     version = Adopt( tolmo___VersionTryDecode( parts[2].chs, parts[2].length ) );

@@ -15,15 +15,18 @@ class Counter {
 public:
     void Write( const void *, KoInt length ) { count += length; }
     void Write( KoString s ) { count += ko::Utf8Length( ko::Chars( s ), s->length ); }
+    void WritePadded( const void *, KoInt length ) { count += length; }
     [[nodiscard]] KoInt Count() const { return count; }
 
 private:
     KoInt count = 0;
 };
 
-/** Writes to room that is known to suffice. */
+/** Writes to room that is known to suffice, with `slack` bytes more. */
 class Writer {
 public:
+    static constexpr KoInt slack = 32;
+
     explicit Writer( uint8_t *room ) : to( room ) {}
     void Write( const void *bytes, KoInt length )
     {
@@ -38,10 +41,20 @@ public:
             to += ko::EncodeUtf8( to, ko::Chars( s )[i] );
         }
     }
+    /** Bytes behind which `slack` more can be read: copied in blocks, without a call and with next to no branch. */
+    void WritePadded( const void *bytes, KoInt length )
+    {
+        const auto *const from = static_cast<const uint8_t *>( bytes );
+        for ( KoInt i = 0; i < length; i += slack ) {
+            memcpy( to + i, from + i, slack );
+        }
+        to += length;
+    }
 
 private:
     uint8_t *to;
 };
+static_assert( sizeof( WireName ) == Writer::slack );
 
 /** What the pieces of an encoded fragment are made of, made once and written twice: to be counted, and to be kept. */
 class Pieces {
@@ -76,7 +89,7 @@ public:
                 lengthWritten = true;
             } else if ( entry.header ) {
                 WriteHeader( output, entry.header );
-            } else {
+            } else if ( entry.known != deletedName ) {
                 WriteRawHeader( output, table->decoded, entry );
             }
         }
@@ -130,7 +143,7 @@ private:
         for ( KoInt i = 0; i < length; ++i ) {
             output.Write( header->name );
             output.Write( ": ", 2 );
-            output.Write( StringAt( header->lines, i ).Get() );
+            output.Write( LentStringAt( header->lines, i ) );
             output.Write( "\r\n", 2 );
         }
     }
@@ -138,16 +151,16 @@ private:
     template <class Output>
     static void WriteRawHeader( Output &output, DecodedHead *decoded, const HeaderEntry &entry )
     {
-        const bool known = entry.known != unknownName;
-        const void *const name =
-            known ? static_cast<const void *>( knownNames[entry.known].data() ) : decoded->Text() + entry.nameOffset;
-        const auto nameLength =
-            static_cast<KoInt>( known ? knownNames[entry.known].size() : static_cast<size_t>( entry.nameLength ) );
         for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
             const RawLine &line = decoded->Lines()[i];
-            output.Write( name, nameLength );
-            output.Write( ": ", 2 );
-            output.Write( decoded->Text() + line.offset, line.length );
+            if ( entry.known != unknownName ) {
+                const WireName &name = wireNames[entry.known];
+                output.WritePadded( name.text, name.length );
+            } else {
+                output.WritePadded( decoded->Text() + entry.nameOffset, static_cast<KoInt>( entry.nameLength ) );
+                output.Write( ": ", 2 );
+            }
+            output.WritePadded( decoded->Text() + line.offset, line.length );
             output.Write( "\r\n", 2 );
             if ( i == entry.lastLine ) {
                 break;
@@ -172,8 +185,9 @@ KoBuffer tolmoMessageFragmentEncode( TolmoMessageFragment frag )
     const tolmo::Pieces pieces( frag );
     tolmo::Counter counter;
     pieces.WriteTo( counter );
-    auto encoded = tolmo::Adopt( ko___BufferCreateOfLength( counter.Count() ) );
+    auto encoded = tolmo::Adopt( ko___BufferCreateOfLength( counter.Count() + tolmo::Writer::slack ) );
     tolmo::Writer writer( ko::Bytes( encoded.Get() ) );
     pieces.WriteTo( writer );
+    encoded.Get()->length = counter.Count();
     return encoded.Leak();
 }

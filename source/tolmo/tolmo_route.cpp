@@ -120,7 +120,7 @@ TolmoRoute tolmo___RouteTryDecode( const KoChar *chs, KoInt length )
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
     tolmo::Address address;
-    if ( !tolmo::TakeAddress( w, address, tolmo::skip::AddrSpec ) ) {
+    if ( !tolmo::TakeAddress( w, address, tolmo::ToSemicolon ) ) {
         return nullptr;
     }
     auto route = Create( std::move( address.iri ), std::move( address.displayName ) );

@@ -346,15 +346,21 @@ inline constexpr auto Password = EscapedRun<charUnreserved | charPasswordUnreser
 inline constexpr auto Uric = EscapedRun<charReserved | charUnreserved>;
 inline constexpr auto Pvalue = EscapedRun<charUnreserved | charParamUnreserved>;
 
-// addr-spec = an IRI in the text before the first ";"
-// No IRI holds whitespace. Looking for the semicolon stops there, or a list of bare addresses would take square time.
-inline KoInt AddrSpec( const KoChar *chs, KoInt length )
+/** How far an addr-spec may go: to the first semicolon. No IRI holds whitespace, so the search for the semicolon stops
+ * there; otherwise a list of bare addresses would take square time. */
+inline KoInt AddrSpecExtent( const KoChar *chs, KoInt length )
 {
     KoInt end = 0;
     while ( end < length && chs[end] != ';' && !Is( chs[end], charLws ) ) {
         ++end;
     }
-    return Iri( chs, end );
+    return end;
+}
+
+// addr-spec = an IRI in the text before the first ";"
+inline KoInt AddrSpec( const KoChar *chs, KoInt length )
+{
+    return Iri( chs, AddrSpecExtent( chs, length ) );
 }
 
 // display-name = quoted-string / *( token SWS )

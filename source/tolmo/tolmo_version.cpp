@@ -6,6 +6,7 @@
 #include <tolmo/tolmo_protocol_name.h>
 #include <tolmo/tolmo_protocol_version.h>
 #include <tolmo/tolmo_skip.hpp>
+#include <tolmo/tolmo_version.hpp>
 
 namespace skip = tolmo::skip;
 
@@ -136,22 +137,28 @@ KoString tolmo___VersionEncode( TolmoVersion version )
     return koStringCreateFromFormatCstr( "%s/%s", -1, version->protocolName, version->protocolVersion );
 }
 
-// SIP-Version = protocol-name SLASH protocol-version, and nothing behind it
+// SIP-Version = protocol-name SLASH protocol-version
+KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
+{
+    if ( !w.Need( skip::ProtocolName ) ) {
+        return {};
+    }
+    const Text name = w.Last();
+    if ( !w.Need( skip::Slash ) || !w.Need( skip::ProtocolVersion ) ) {
+        return {};
+    }
+    const Text number = w.Last();
+    if ( name.Is( sip ) && number.Is( twoZero ) ) {
+        return Share( sip20 ); // what nearly every text holds needs no new object
+    }
+    return Adopt( tolmoVersionCreate( name.Copy().Get(), number.Copy().Get() ) );
+}
+
 TolmoVersion tolmo___VersionTryDecode( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
-    if ( !w.Need( skip::ProtocolName ) ) {
-        return nullptr;
-    }
-    const tolmo::Text name = w.Last();
-    if ( !w.Need( skip::Slash ) || !w.Need( skip::ProtocolVersion ) || !w.AtEnd() ) {
-        return nullptr;
-    }
-    const tolmo::Text number = w.Last();
-    if ( name.Is( sip ) && number.Is( twoZero ) ) {
-        return tolmoVersionCreateSip20(); // what nearly every text holds needs no new object
-    }
-    return tolmoVersionCreate( name.Copy().Get(), number.Copy().Get() );
+    auto version = tolmo::TakeVersion( w );
+    return w.AtEnd() ? version.Leak() : nullptr;
 }

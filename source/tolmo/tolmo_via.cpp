@@ -4,11 +4,13 @@
 #include <tolmo/tolmo_branch.h>
 #include <tolmo/tolmo_constant.hpp>
 #include <tolmo/tolmo_host.h>
+#include <tolmo/tolmo_host.hpp>
 #include <tolmo/tolmo_params.hpp>
 #include <tolmo/tolmo_port.h>
 #include <tolmo/tolmo_scalar.hpp>
 #include <tolmo/tolmo_transport.h>
 #include <tolmo/tolmo_ttl.h>
+#include <tolmo/tolmo_version.hpp>
 
 namespace skip = tolmo::skip;
 
@@ -445,11 +447,9 @@ bool TakeParam( tolmo::Walk &w, TolmoVia via )
                                   return tolmo::StoreNumber( via->ttl,
                                                              tolmo___TtlTryDecode( value.chs, value.length ) );
                               } ) ||
-           tolmo::TakeLifted( w, "maddr", skip::Host,
-                              [=]( Text value ) {
-                                  return tolmo::StoreGood( via->maddr,
-                                                           Adopt( tolmo___HostTryDecode( value.chs, value.length ) ) );
-                              } ) ||
+           tolmo::TakeLifted(
+               w, "maddr", skip::Host,
+               [=]( Text value ) { return tolmo::StoreGood( via->maddr, tolmo::DecodeHost( value ) ); } ) ||
            tolmo::TakeLifted( w, "received", SkipReceivedAddress,
                               [=]( Text value ) {
                                   return tolmo::StoreGood(
@@ -468,10 +468,7 @@ TolmoVia tolmo___ViaTryDecode( const KoChar *chs, KoInt length )
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
     tolmo::Walk w( chs, length );
-    if ( !w.Need( skip::Version ) ) {
-        return nullptr;
-    }
-    auto version = tolmo::Adopt( tolmo___VersionTryDecode( w.Last().chs, w.Last().length ) );
+    auto version = tolmo::TakeVersion( w );
     if ( !version || !w.Need( skip::Slash ) || !w.Need( skip::Transport ) ) {
         return nullptr;
     }
@@ -479,11 +476,7 @@ TolmoVia tolmo___ViaTryDecode( const KoChar *chs, KoInt length )
     if ( !w.Need( skip::Lws ) || !w.Need( skip::Host ) ) {
         return nullptr;
     }
-    auto host = tolmo::Adopt( tolmo___HostTryDecode( w.Last().chs, w.Last().length ) );
-    if ( !host ) {
-        return nullptr;
-    }
-    auto via = Create( std::move( version ), std::move( transport ), std::move( host ) );
+    auto via = Create( std::move( version ), std::move( transport ), tolmo::DecodeHost( w.Last() ) );
     if ( w.Need( skip::Colon ) ) {
         if ( !w.Need( skip::Port ) ) {
             return nullptr;

@@ -91,6 +91,12 @@ public:
     [[nodiscard]] bool AtEnd() const { return at == text.length; }
     /** The present place, to come back to. */
     [[nodiscard]] KoInt Place() const { return at; }
+    /** Takes so many characters, which somebody else has looked at. */
+    void Take( KoInt count )
+    {
+        begin = at;
+        at += count;
+    }
     /** Goes back to a place. */
     void Return( KoInt place ) { at = begin = place; }
     /** The result of a skip function: what was taken, or 0 unless `good`. */

@@ -20,7 +20,19 @@ std::string FromUri( std::string_view uri )
 {
     const test::Exact chs( uri );
     const std::string iri = Take( ulmTryConvertFromUri( Str( uri ).Get() ) );
-    EXPECT_EQ( Take( ulm___TryConvertFromUriChars( chs.Chars(), chs.Length() ) ), iri ) << uri;
+    // In one pass: what ulm___SkipIri takes, in the form that ulmTryConvertFromUri gives it.
+    KoString taken = nullptr;
+    const KoInt length = ulm___TakeIri( chs.Chars(), chs.Length(), &taken );
+    EXPECT_EQ( length, ulm___SkipIri( chs.Chars(), chs.Length() ) ) << uri;
+    EXPECT_EQ( length > 0, taken != nullptr ) << uri;
+    if ( length == chs.Length() ) {
+        EXPECT_EQ( Text( taken ), iri ) << uri;
+    } else {
+        EXPECT_EQ( iri, "(null)" ) << uri;
+    }
+    if ( taken ) {
+        koStringRelease( taken );
+    }
     return iri;
 }
 
@@ -223,9 +235,12 @@ TEST_F( UlmConvert, RefusesWhatIsNoIdentifier )
         EXPECT_EQ( FromUri( text ), "(null)" ) << text;
         EXPECT_EQ( ToUri( text ), "(null)" ) << text;
     }
-    EXPECT_EQ( ulm___TryConvertFromUriChars( nullptr, 0 ), nullptr );
+    KoString taken = nullptr;
+    EXPECT_EQ( ulm___TakeIri( nullptr, 0, &taken ), 0 );
+    EXPECT_EQ( taken, nullptr );
     const KoChar surrogate[] = { 's', ':', 0xD800 };
-    EXPECT_EQ( ulm___TryConvertFromUriChars( surrogate, 3 ), nullptr );
+    EXPECT_EQ( ulm___TakeIri( surrogate, 3, &taken ), 2 );
+    EXPECT_EQ( Take( taken ), "s:" );
 }
 
 TEST_F( UlmConvert, NothingToConvertIsTheSameString )
@@ -247,8 +262,10 @@ TEST_F( UlmConvert, Preconditions )
 {
     EXPECT_ABORT( ulmTryConvertFromUri( nullptr ), path, "uri" );
     EXPECT_ABORT( ulmTryConvertToUri( nullptr ), path, "iri" );
-    EXPECT_ABORT( ulm___TryConvertFromUriChars( nullptr, -1 ), path, "length >= 0" );
-    EXPECT_ABORT( ulm___TryConvertFromUriChars( nullptr, 1 ), path, "chs || length == 0" );
+    KoString taken = nullptr;
+    EXPECT_ABORT( ulm___TakeIri( nullptr, -1, &taken ), path, "length >= 0" );
+    EXPECT_ABORT( ulm___TakeIri( nullptr, 1, &taken ), path, "chs || length == 0" );
+    EXPECT_ABORT( ulm___TakeIri( nullptr, 0, nullptr ), path, "taken" );
 }
 
 // Each character, escaped and as it is.

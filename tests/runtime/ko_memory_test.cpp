@@ -19,10 +19,11 @@ TEST_F( MemoryTest, EverySizeGetsABlockOfItsSize )
     for ( size_t size = 1; size <= 70000; ++size ) {
         const ko::Block block = ko::Allocate( size );
         ASSERT_NE( block.memory, nullptr );
-        ASSERT_GE( block.size, size );
-        ASSERT_LE( block.size, size <= 1024 ? size + 15 : size + size / 4 ) << "next to nothing is wasted";
+        const size_t usable = block.Usable( size );
+        ASSERT_GE( usable, size );
+        ASSERT_LE( usable, size <= 1024 ? size + 15 : size + size / 4 ) << "next to nothing is wasted";
         ASSERT_EQ( reinterpret_cast<uintptr_t>( block.memory ) % 16, 0U ) << size;
-        memset( block.memory, 0xa5, block.size );
+        memset( block.memory, 0xa5, usable );
         ko::Free( block.memory, block.blockClass );
     }
 }
@@ -42,13 +43,14 @@ TEST_F( MemoryTest, LivingBlocksDoNotOverlap )
     std::mt19937 random( 7 );
     struct Living {
         ko::Block block;
+        size_t size;
         unsigned char mark;
     };
     std::vector<Living> living;
     const auto end = [&]( size_t at ) {
         const Living ended = living[at];
         const auto *const bytes = static_cast<const unsigned char *>( ended.block.memory );
-        for ( size_t i = 0; i < ended.block.size; ++i ) {
+        for ( size_t i = 0; i < ended.size; ++i ) {
             ASSERT_EQ( bytes[i], ended.mark );
         }
         ko::Free( ended.block.memory, ended.block.blockClass );
@@ -58,8 +60,9 @@ TEST_F( MemoryTest, LivingBlocksDoNotOverlap )
     for ( int step = 0; step < 20000; ++step ) {
         if ( living.size() < 200 && random() % 2 ) {
             const size_t size = 1 + random() % ( random() % 4 ? 300 : 70000 );
-            const Living made{ ko::Allocate( size ), static_cast<unsigned char>( random() ) };
-            memset( made.block.memory, made.mark, made.block.size );
+            const ko::Block block = ko::Allocate( size );
+            const Living made{ block, block.Usable( size ), static_cast<unsigned char>( random() ) };
+            memset( made.block.memory, made.mark, made.size );
             living.push_back( made );
         } else if ( !living.empty() ) {
             end( random() % living.size() );
@@ -110,22 +113,23 @@ TEST_F( MemoryTest, AThreadKeepsNoMoreThanItsLimit )
 
 TEST_F( MemoryTest, AnotherThreadFreesABlock )
 {
+    const auto sizeOf = []( size_t i ) { return 1 + i * 37 % 3000; };
     for ( int round = 0; round < 50; ++round ) {
         std::vector<ko::Block> blocks;
         for ( size_t i = 0; i < 500; ++i ) {
-            blocks.push_back( ko::Allocate( 1 + i * 37 % 3000 ) );
-            memset( blocks.back().memory, 1, blocks.back().size );
+            blocks.push_back( ko::Allocate( sizeOf( i ) ) );
+            memset( blocks.back().memory, 1, sizeOf( i ) );
         }
         std::thread( [&] {
-            for ( ko::Block &block : blocks ) {
-                ko::Free( block.memory, block.blockClass );
-                block = ko::Allocate( block.size );
-                memset( block.memory, 2, block.size );
+            for ( size_t i = 0; i < blocks.size(); ++i ) {
+                ko::Free( blocks[i].memory, blocks[i].blockClass );
+                blocks[i] = ko::Allocate( sizeOf( i ) );
+                memset( blocks[i].memory, 2, sizeOf( i ) );
             }
         } ).join();
-        for ( const ko::Block &block : blocks ) { // the thread that made them is gone
-            EXPECT_EQ( static_cast<const unsigned char *>( block.memory )[block.size - 1], 2 );
-            ko::Free( block.memory, block.blockClass );
+        for ( size_t i = 0; i < blocks.size(); ++i ) { // the thread that made them is gone
+            EXPECT_EQ( static_cast<const unsigned char *>( blocks[i].memory )[sizeOf( i ) - 1], 2 );
+            ko::Free( blocks[i].memory, blocks[i].blockClass );
         }
     }
 }
@@ -161,8 +165,9 @@ TEST_F( MemoryTest, ManyThreadsComeAndGo )
         for ( int i = 0; i < 8; ++i ) {
             threads.emplace_back( [&, i] {
                 for ( int32_t j = 0; j < 100; ++j ) {
-                    const ko::Block block = ko::Allocate( static_cast<size_t>( 1 + i * 100 + j ) );
-                    memset( block.memory, i, block.size );
+                    const auto size = static_cast<size_t>( 1 + i * 100 + j );
+                    const ko::Block block = ko::Allocate( size );
+                    memset( block.memory, i, size );
                     if ( j < i ) {
                         const std::lock_guard guard( lock );
                         kept.push_back( block );
