@@ -19,6 +19,9 @@ target_compile_options( tolmo_options INTERFACE
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=
     -fmacro-prefix-map=${source_from_build}=
 )
+if( TOLMO_FUZZ )
+    set( TOLMO_SANITIZE fuzzer-no-link,address,undefined )
+endif()
 if( TOLMO_SANITIZE )
     target_compile_options( tolmo_options INTERFACE
         -fsanitize=${TOLMO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS )

@@ -41,9 +41,12 @@ public:
         for ( KoInt i = 0; i < d->length; ++i ) {
             entries[i] = &Entries( d )[i];
         }
-        std::sort( entries, entries + d->length, []( const DictEntry *a, const DictEntry *b ) {
+        // By heap: no order of the keys, which may be a peer's choice, makes it slower, and nothing recurses.
+        const auto before = []( const DictEntry *a, const DictEntry *b ) {
             return koObjCompare( &a->key->head, &b->key->head ) < 0;
-        } );
+        };
+        std::make_heap( entries, entries + d->length, before );
+        std::sort_heap( entries, entries + d->length, before );
     }
     Sorted( const Sorted & ) = delete;
     Sorted &operator=( const Sorted & ) = delete;

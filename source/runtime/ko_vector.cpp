@@ -118,15 +118,19 @@ void MoveGap( KoVector v, KoInt to )
 }
 
 /** Inserts an object in front of an index that is inside the vector or its length. */
-void Insert( KoVector *v, KoInt index, KoObj obj )
+void InsertTaken( KoVector *v, KoInt index, KoObj obj )
 {
-    // The reference is taken first: a vector that is put into itself is shared from here on, and so is copied.
-    ko___Retain( obj );
     const KoVector own = Own( v, 1 );
     MoveGap( own, index );
     ko::Slots( own )[Wrap( own, own->first + index )] = obj;
     own->gap = index + 1;
     ++own->length;
+}
+
+void Insert( KoVector *v, KoInt index, KoObj obj )
+{
+    // The reference is taken first: a vector that is put into itself is shared from here on, and so is copied.
+    InsertTaken( v, index, ko___Retain( obj ) );
 }
 
 /** Removes a range that is inside the vector. */
@@ -215,6 +219,14 @@ void koVectorInsertString( KoVector *v, KoInt index, KoString s )
     KO_REQUIRE( index >= 0 && index <= koVectorLength( *v ) );
     KO_REQUIRE( s );
     Insert( v, index, &s->head );
+}
+
+void ko___VectorInsertTaken( KoVector *v, KoInt index, KoObj taken )
+{
+    KO_REQUIRE_HANDLE( v );
+    KO_REQUIRE( index >= 0 && index <= koVectorLength( *v ) );
+    KO_REQUIRE( taken );
+    InsertTaken( v, index, taken );
 }
 
 void koVectorSetStringAt( KoVector *v, KoInt index, KoString s )

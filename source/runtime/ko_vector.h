@@ -163,6 +163,19 @@ KO_API void koVectorInsertString( KoVector *v, KoInt index, KoString s );
 KO_API void koVectorSetStringAt( KoVector *v, KoInt index, KoString s );
 
 /**
+ * Inserts an object whose reference the caller gives away: what a fresh object needs no counting for.
+ *
+ * @param v address of the caller's handle, which may be replaced.
+ * @param index 0 to the length.
+ * @param taken taken over.
+ * @pre v
+ * @pre *v
+ * @pre index >= 0 && index <= koVectorLength( *v )
+ * @pre taken
+ */
+KO_API void ko___VectorInsertTaken( KoVector *v, KoInt index, KoObj taken );
+
+/**
  * Removes an element.
  *
  * @param v address of the caller's handle, which may be replaced.

@@ -3,7 +3,9 @@
 #define TOLMO_CSTR_HPP
 
 #include <runtime/ko_ref.h>
-#include <runtime/ko_vector.h>
+#include <runtime/ko_vector.hpp>
+
+#include <utility>
 
 namespace tolmo {
 
@@ -21,6 +23,27 @@ inline KoRef<KoString> FromWcstr( const uint16_t *chs, KoInt length )
 inline KoRef<KoString> StringAt( KoVector strings, KoInt index )
 {
     return KoRef<KoString>::Adopt( reinterpret_cast<KoString>( koVectorObjAt( strings, index ) ) );
+}
+
+/** The same, lent: valid as long as the vector stays as it is. */
+inline KoString LentStringAt( KoVector strings, KoInt index )
+{
+    if ( index < 0 || index >= strings->length ) {
+        koVectorObjAt( strings, index ); // ends the process
+    }
+    return reinterpret_cast<KoString>( ko::At( strings, index ) );
+}
+
+/** Puts a fresh string into a vector. */
+inline void InsertString( KoVector &strings, KoInt index, KoRef<KoString> fresh )
+{
+    ko___VectorInsertTaken( &strings, index, koStringObj( fresh.Leak() ) );
+}
+
+/** Puts a fresh string behind the others. */
+inline void AppendString( KoVector &strings, KoRef<KoString> fresh )
+{
+    InsertString( strings, strings->length, std::move( fresh ) );
 }
 
 } // namespace tolmo

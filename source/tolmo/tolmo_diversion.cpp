@@ -312,7 +312,7 @@ bool TakeWord( tolmo::Walk &w, std::string_view name, KoString &field )
     } );
 }
 
-/** One parameter, by the parsers in their order. */
+/** One parameter, by the parsers in their order. What the skip functions take, decodes: two digits are at most 99. */
 bool TakeParam( tolmo::Walk &w, TolmoDiversion diversion )
 {
     return TakeWord( w, "reason", diversion->reason ) ||

@@ -10,8 +10,8 @@ KO_BEGIN_DECLS
 typedef struct tolmo___Diversion *TolmoDiversion;
 
 /** @name Standard operations
- * See docs/objects.md. Diversions do not compare, so that one equals itself alone, and have no text of their own: `ToString` does not
- * give the wire text. @{ */
+ * See docs/objects.md. Diversions do not compare, so that one equals itself alone, and have no text of their own:
+ * `ToString` does not give the wire text. @{ */
 KO_API KoSort tolmoDiversionSort( void );
 KO_API KoObj tolmoDiversionObj( TolmoDiversion diversion );
 KO_API TolmoDiversion tolmoDiversionFrom( KoObj obj );

@@ -40,7 +40,7 @@ public:
         if ( strings ) {
             const KoInt length = koVectorLength( strings );
             KoInt i = 0;
-            while ( i < length && take( Text( StringAt( strings, i ).Get() ) ) ) {
+            while ( i < length && take( Text( LentStringAt( strings, i ) ) ) ) {
                 ++i;
             }
             return i == length;
@@ -62,7 +62,7 @@ public:
     auto WithLast( Take take ) const
     {
         if ( strings ) {
-            return take( Text( StringAt( strings, koVectorLength( strings ) - 1 ).Get() ) );
+            return take( Text( LentStringAt( strings, koVectorLength( strings ) - 1 ) ) );
         }
         const RawLine &line = decoded->Lines()[last];
         const Wide wide( decoded->Text() + line.offset, line.length );
@@ -86,7 +86,7 @@ inline KoRef<TolmoMessageHeader> NewHeader( NameId name )
 inline TolmoMessageHeader OneLineHeader( NameId name, KoRef<KoString> line )
 {
     auto header = NewHeader( name );
-    tolmoMessageHeaderAppendLine( header.Address(), line.Get() );
+    AppendLine( header.Get(), std::move( line ) );
     return header.Leak();
 }
 
@@ -158,8 +158,7 @@ auto DecodeLastLine( const Lines &lines, DecodeLine decodeLine )
     {                                                                                                                  \
         KO_REQUIRE( hdr );                                                                                             \
         KO_REQUIRE_HANDLE( msg );                                                                                      \
-        const auto header = tolmo::Adopt( tolmoHeader##Type##Encode( hdr ) );                                          \
-        tolmoMessageSetHeader( msg, header.Get() );                                                                    \
+        tolmo::SetHeader( msg, tolmo::Adopt( tolmoHeader##Type##Encode( hdr ) ) );                                     \
     }                                                                                                                  \
     KoBool tolmoHeader##Type##PresentInMessage( TolmoMessage msg )                                                     \
     {                                                                                                                  \

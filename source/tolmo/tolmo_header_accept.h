@@ -24,8 +24,8 @@ KO_API TolmoHeaderAccept tolmoHeaderAcceptCreateFrom( TolmoHeaderAccept source )
 /** @} */
 
 /** @name Header operations
- * See docs/headers.md. A list of TolmoAccept over all lines; without a line there is none. The decoders refuse each line
- * that is not empty, also those of the encoder: items come into a list by the functions that change it. @{ */
+ * See docs/headers.md. A list of TolmoAccept over all lines; without a line there is none. The decoders refuse each
+ * line that is not empty, also those of the encoder: items come into a list by the functions that change it. @{ */
 KO_API TolmoMessageHeader tolmoHeaderAcceptEncode( TolmoHeaderAccept hdr );
 KO_API TolmoHeaderAccept tolmoHeaderAcceptTryDecode( TolmoMessageHeader header );
 KO_API void tolmoHeaderAcceptEncodeToMessage( TolmoHeaderAccept hdr, TolmoMessage *msg );

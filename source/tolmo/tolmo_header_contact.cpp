@@ -70,7 +70,7 @@ void tolmoHeaderContactInsertContact( TolmoHeaderContact *hdr, KoInt index, Tolm
     KO_REQUIRE_HANDLE( hdr );
     tolmo::MakeUnique( hdr, tolmoHeaderContactCreateFrom );
     ( *hdr )->starForm = KO_FALSE;
-    koVectorInsertString( &( *hdr )->items, index, tolmo::Adopt( tolmo___ContactEncode( contact ) ).Get() );
+    tolmo::InsertString( ( *hdr )->items, index, tolmo::Adopt( tolmo___ContactEncode( contact ) ) );
 }
 
 void tolmoHeaderContactPrependContact( TolmoHeaderContact *hdr, TolmoContact contact )
@@ -78,7 +78,7 @@ void tolmoHeaderContactPrependContact( TolmoHeaderContact *hdr, TolmoContact con
     KO_REQUIRE_HANDLE( hdr );
     tolmo::MakeUnique( hdr, tolmoHeaderContactCreateFrom );
     ( *hdr )->starForm = KO_FALSE;
-    koVectorPrependString( &( *hdr )->items, tolmo::Adopt( tolmo___ContactEncode( contact ) ).Get() );
+    tolmo::InsertString( ( *hdr )->items, 0, tolmo::Adopt( tolmo___ContactEncode( contact ) ) );
 }
 
 void tolmoHeaderContactAppendContact( TolmoHeaderContact *hdr, TolmoContact contact )
@@ -86,7 +86,7 @@ void tolmoHeaderContactAppendContact( TolmoHeaderContact *hdr, TolmoContact cont
     KO_REQUIRE_HANDLE( hdr );
     tolmo::MakeUnique( hdr, tolmoHeaderContactCreateFrom );
     ( *hdr )->starForm = KO_FALSE;
-    koVectorAppendString( &( *hdr )->items, tolmo::Adopt( tolmo___ContactEncode( contact ) ).Get() );
+    tolmo::AppendString( ( *hdr )->items, tolmo::Adopt( tolmo___ContactEncode( contact ) ) );
 }
 
 // The star form has no item to remove.

@@ -70,7 +70,7 @@ TolmoMessageHeader tolmoHeaderMinSeEncode( TolmoHeaderMinSe hdr )
 {
     KO_REQUIRE( hdr );
     tolmo::Builder text;
-    text.Take( tolmo___DeltaSecondsEncode( hdr->deltaSeconds ) );
+    text.AddNumber( hdr->deltaSeconds );
     tolmo::AddParams( text, hdr->genericParams, {} );
     return tolmo::OneLineHeader( headerName, tolmo::Adopt( text.Finish() ) );
 }

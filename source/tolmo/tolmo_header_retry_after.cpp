@@ -103,7 +103,7 @@ TolmoMessageHeader tolmoHeaderRetryAfterEncode( TolmoHeaderRetryAfter hdr )
 {
     KO_REQUIRE( hdr );
     tolmo::Builder text;
-    text.Take( tolmo___DeltaSecondsEncode( hdr->deltaSeconds ) );
+    text.AddNumber( hdr->deltaSeconds );
     tolmo::AddSeconds( text, "duration", hdr->duration );
     tolmo::AddParams( text, hdr->genericParams, { tolmo::Hidden( hdr->duration != -1, "duration" ) } );
     return tolmo::OneLineHeader( headerName, tolmo::Adopt( text.Finish() ) );

@@ -118,7 +118,7 @@ TolmoMessageHeader tolmoHeaderSessionExpiresEncode( TolmoHeaderSessionExpires hd
 {
     KO_REQUIRE( hdr );
     tolmo::Builder text;
-    text.Take( tolmo___DeltaSecondsEncode( hdr->deltaSeconds ) );
+    text.AddNumber( hdr->deltaSeconds );
     if ( hdr->refresher ) {
         tolmo::AddParamName( text, kosRefresher );
         text.Add( hdr->refresher );

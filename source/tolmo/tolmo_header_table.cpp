@@ -1,6 +1,7 @@
 /* The headers of a message, in their order: as they were received, or as objects that a caller has set. */
 #include <tolmo/tolmo_header_table.hpp>
 
+#include <tolmo/tolmo_cstr.hpp>
 #include <tolmo/tolmo_wide.hpp>
 
 #include <runtime/ko_dict.h>
@@ -112,6 +113,7 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
 {
     HeaderTable *const copy = CreateHeaderTable( capacity, Share( table->decoded ) ).Leak();
     copy->count = table->count;
+    copy->deleted = table->deleted;
     copy->index = table->index ? table->index.Moved( capacity, 0 ) : ko::Index();
     memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
             static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
@@ -119,6 +121,27 @@ HeaderTable *Copy( HeaderTable *table, KoInt capacity )
         Retained( table->Entries()[i].header );
     }
     return copy;
+}
+
+/** Makes the index of a table's entries. */
+void MakeIndex( HeaderTable *table )
+{
+    table->index.Free();
+    table->index = ko::Index::Create( table->capacity );
+    for ( KoInt i = 0; i < table->count; ++i ) {
+        table->index.Add( HashOf( table, table->Entries()[i] ), i );
+    }
+}
+
+/** Closes the gaps of a large table. As half of it are gaps by then, a deletion costs no more than its share. */
+void DropDeleted( HeaderTable *table )
+{
+    HeaderEntry *const entries = table->Entries();
+    table->count = std::remove_if( entries, entries + table->count,
+                                   []( const HeaderEntry &e ) { return e.known == deletedName; } ) -
+                   entries;
+    table->deleted = 0;
+    MakeIndex( table );
 }
 
 HeaderTable *CopyTable( HeaderTable *table )
@@ -145,6 +168,7 @@ KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> dec
     auto *const table = reinterpret_cast<HeaderTable *>( ko___ObjCreateUncleared( size, &headerTableSort ) );
     table->decoded = decoded.Leak();
     table->count = 0;
+    table->deleted = 0;
     table->capacity = capacity;
     table->index = {};
     return Adopt( table );
@@ -158,6 +182,7 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
         HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
         std::swap( grown->decoded, own->decoded );
         std::swap( grown->count, own->count );
+        grown->deleted = own->deleted;
         grown->index = own->index ? own->index.Moved( grown->capacity, 0 ) : ko::Index();
         memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
                 static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
@@ -169,10 +194,7 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
     if ( own->index ) {
         own->index.Add( HashOf( own, entry ), own->count - 1 );
     } else if ( own->count > indexedFrom ) {
-        own->index = ko::Index::Create( own->capacity );
-        for ( KoInt i = 0; i < own->count; ++i ) {
-            own->index.Add( HashOf( own, own->Entries()[i] ), i );
-        }
+        MakeIndex( own );
     }
     return appended;
 }
@@ -201,7 +223,7 @@ KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry
     auto lines = Adopt( koVectorCreate() );
     for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
         const RawLine &line = decoded->Lines()[i];
-        koVectorAppendString( lines.Address(), WideString( decoded->Text() + line.offset, line.length ).Get() );
+        AppendString( *lines.Address(), WideString( decoded->Text() + line.offset, line.length ) );
         if ( i == entry.lastLine ) {
             break;
         }
@@ -212,15 +234,15 @@ KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry
     return CreateMessageHeader( std::move( name ), std::move( lines ) );
 }
 
-void SetHeader( HeaderTable **table, TolmoMessageHeader header )
+void SetHeader( HeaderTable **table, KoRef<TolmoMessageHeader> header )
 {
     MakeUnique( table, CopyTable );
-    const HeaderKey key( header->name );
+    const HeaderKey key( header.Get()->name );
     if ( HeaderEntry *const entry = FindEntry( *table, key ) ) {
-        Store( entry->header, Share( header ) );
+        Store( entry->header, std::move( header ) );
         return;
     }
-    AppendEntry( table, { .header = Retained( header ),
+    AppendEntry( table, { .header = header.Leak(),
                           .firstLine = 0,
                           .lastLine = 0,
                           .nameOffset = 0,
@@ -239,14 +261,19 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
     const KoInt place = entry - own->Entries();
     if ( own->index ) {
         own->index.Remove( HashOf( own, *entry ), place );
-        own->index.Shift( place + 1, -1 );
     }
-    if ( entry->header ) {
-        ko___Release( tolmoMessageHeaderObj( entry->header ) );
+    Store( entry->header, {} );
+    if ( !own->index ) {
+        --own->count;
+        memmove( static_cast<void *>( entry ), entry + 1,
+                 static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+        return;
     }
-    --own->count;
-    memmove( static_cast<void *>( entry ), entry + 1,
-             static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+    entry->known = deletedName;
+    ++own->deleted;
+    if ( own->deleted > own->count / 2 ) {
+        DropDeleted( own );
+    }
 }
 
 } // namespace tolmo

@@ -56,10 +56,15 @@ struct HeaderKey {
     }
 };
 
+/** What stands in place of the NameId of an entry that was deleted from a large table: it is left out everywhere. */
+inline constexpr NameId deletedName = 0xFFFE;
+static_assert( knownNameCount <= deletedName && deletedName != unknownName );
+
 struct HeaderTable {
     ko___Obj head;
     DecodedHead *decoded; // may be null
-    KoInt count;
+    KoInt count;          // the deleted entries included
+    KoInt deleted;
     KoInt capacity;
     ko::Index index; // there once the table is large
 
@@ -82,7 +87,7 @@ HeaderEntry *FindUnknownEntry( HeaderTable *table, const uint8_t *name, KoInt le
 KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry );
 
 /** Sets a header under its own name: the entry of that name keeps its place. Copies a shared table. */
-void SetHeader( HeaderTable **table, TolmoMessageHeader header );
+void SetHeader( HeaderTable **table, KoRef<TolmoMessageHeader> header );
 
 /** Removes the header of a name, if it is there. Copies a shared table. */
 void DeleteHeader( HeaderTable **table, const HeaderKey &key );

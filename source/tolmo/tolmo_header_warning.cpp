@@ -21,7 +21,7 @@ void tolmoHeaderWarningInsertWarning( TolmoHeaderWarning *hdr, KoInt index, Tolm
     KO_REQUIRE_HANDLE( hdr );
     KO_REQUIRE( warning );
     tolmo::MakeUnique( hdr, tolmoHeaderWarningCreateFrom );
-    koVectorInsertString( &( *hdr )->items, index, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ).Get() );
+    tolmo::InsertString( ( *hdr )->items, index, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ) );
 }
 
 void tolmoHeaderWarningPrependWarning( TolmoHeaderWarning *hdr, TolmoWarningValue warning )
@@ -29,7 +29,7 @@ void tolmoHeaderWarningPrependWarning( TolmoHeaderWarning *hdr, TolmoWarningValu
     KO_REQUIRE_HANDLE( hdr );
     KO_REQUIRE( warning );
     tolmo::MakeUnique( hdr, tolmoHeaderWarningCreateFrom );
-    koVectorPrependString( &( *hdr )->items, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ).Get() );
+    tolmo::InsertString( ( *hdr )->items, 0, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ) );
 }
 
 void tolmoHeaderWarningAppendWarning( TolmoHeaderWarning *hdr, TolmoWarningValue warning )
@@ -37,7 +37,7 @@ void tolmoHeaderWarningAppendWarning( TolmoHeaderWarning *hdr, TolmoWarningValue
     KO_REQUIRE_HANDLE( hdr );
     KO_REQUIRE( warning );
     tolmo::MakeUnique( hdr, tolmoHeaderWarningCreateFrom );
-    koVectorAppendString( &( *hdr )->items, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ).Get() );
+    tolmo::AppendString( ( *hdr )->items, tolmo::Adopt( tolmo___WarningValueEncode( warning ) ) );
 }
 
 TOLMO_ITEM_LIST_DELETING( Warning, Warning )

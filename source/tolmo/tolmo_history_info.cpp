@@ -111,7 +111,7 @@ void tolmoHistoryInfoDelDisplayName( TolmoHistoryInfo *hi )
     tolmo::Store( ( *hi )->displayName, {} );
 }
 
-// The three back references are one: callers see the same text under each of the names, and peers see `rc`. That is meant.
+// The three back references are one: callers see the same text under each of the names, peers see `rc`. That is meant.
 
 KoBool tolmoHistoryInfoHasRc( TolmoHistoryInfo hi )
 {

@@ -23,7 +23,8 @@ KO_API TolmoHistoryInfo tolmoHistoryInfoCreateFrom( TolmoHistoryInfo source );
 /** @} */
 
 /**
- * An entry without display name, back reference and parameters. What goes in is shared, the caller keeps its references.
+ * An entry without display name, back reference and parameters. What goes in is shared, the caller keeps its
+ * references.
  *
  * @return new reference.
  * @pre tolmoIriOk( iri )

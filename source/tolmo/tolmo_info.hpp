@@ -28,8 +28,8 @@ KoString EncodeInfo( Info *info )
 }
 
 /**
- * Decodes such a value: LAQUOT IRI RAQUOT generic-params. Skipping and decoding a parameter is one step, so that nothing
- * is skipped that does not decode.
+ * Decodes such a value: LAQUOT IRI RAQUOT generic-params. Skipping and decoding a parameter is one step, so that
+ * nothing is skipped that does not decode.
  */
 template <class Info>
 Info *TryDecodeInfo( KoSort sort, Walk w )

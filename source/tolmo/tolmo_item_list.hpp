@@ -35,7 +35,7 @@ bool CutItems( const Lines &lines, Separator separator, Item item, Take take )
 /** What takes an item into a vector of strings. */
 inline auto AppendTo( KoVector &items )
 {
-    return [&]( Text text ) { koVectorAppendString( &items, text.Copy().Get() ); };
+    return [&]( Text text ) { AppendString( items, text.Copy() ); };
 }
 
 /** Cuts all lines into a vector of strings at commas. */
@@ -126,8 +126,8 @@ inline TolmoMessageHeader ItemPerLineHeader( NameId name, KoVector items )
     Tolmo##Value tolmoHeader##Type##TryDecode##Item##At( TolmoHeader##Type hdr, KoInt index )                          \
     {                                                                                                                  \
         KO_REQUIRE( hdr );                                                                                             \
-        const auto item = tolmo::StringAt( hdr->items, index );                                                        \
-        return tolmo___##Value##TryDecode( ko::Chars( item.Get() ), item.Get()->length );                              \
+        const KoString item = tolmo::LentStringAt( hdr->items, index );                                                \
+        return tolmo___##Value##TryDecode( ko::Chars( item ), item->length );                                          \
     }
 
 /** SetItemAt, InsertItem, PrependItem and AppendItem. */
@@ -142,19 +142,19 @@ inline TolmoMessageHeader ItemPerLineHeader( NameId name, KoVector items )
     {                                                                                                                  \
         KO_REQUIRE_HANDLE( hdr );                                                                                      \
         tolmo::MakeUnique( hdr, tolmoHeader##Type##CreateFrom );                                                       \
-        koVectorInsertString( &( *hdr )->items, index, tolmo::Adopt( tolmo___##Value##Encode( value ) ).Get() );       \
+        tolmo::InsertString( ( *hdr )->items, index, tolmo::Adopt( tolmo___##Value##Encode( value ) ) );               \
     }                                                                                                                  \
     void tolmoHeader##Type##Prepend##Item( TolmoHeader##Type *hdr, Tolmo##Value value )                                \
     {                                                                                                                  \
         KO_REQUIRE_HANDLE( hdr );                                                                                      \
         tolmo::MakeUnique( hdr, tolmoHeader##Type##CreateFrom );                                                       \
-        koVectorPrependString( &( *hdr )->items, tolmo::Adopt( tolmo___##Value##Encode( value ) ).Get() );             \
+        tolmo::InsertString( ( *hdr )->items, 0, tolmo::Adopt( tolmo___##Value##Encode( value ) ) );                   \
     }                                                                                                                  \
     void tolmoHeader##Type##Append##Item( TolmoHeader##Type *hdr, Tolmo##Value value )                                 \
     {                                                                                                                  \
         KO_REQUIRE_HANDLE( hdr );                                                                                      \
         tolmo::MakeUnique( hdr, tolmoHeader##Type##CreateFrom );                                                       \
-        koVectorAppendString( &( *hdr )->items, tolmo::Adopt( tolmo___##Value##Encode( value ) ).Get() );              \
+        tolmo::AppendString( ( *hdr )->items, tolmo::Adopt( tolmo___##Value##Encode( value ) ) );                      \
     }
 
 /** DelItemAt. */

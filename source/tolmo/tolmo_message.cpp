@@ -351,6 +351,13 @@ void tolmoMessageDelBody( TolmoMessage *msg )
     tolmoMessageFragmentDelBody( &( *msg )->fragment );
 }
 
+void tolmo::SetHeader( TolmoMessage *msg, KoRef<TolmoMessageHeader> header )
+{
+    MakeUnique( msg, tolmoMessageCreateFrom );
+    MakeUnique( &( *msg )->fragment, tolmoMessageFragmentCreateFrom );
+    SetHeader( &( *msg )->fragment->headers, std::move( header ) );
+}
+
 TolmoMessage tolmoMessageTryDecode( KoBuffer buf )
 {
     KO_REQUIRE( buf );

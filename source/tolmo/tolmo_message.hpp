@@ -10,4 +10,11 @@ struct tolmo___Message {
     TolmoMessageFragment fragment;
 };
 
+namespace tolmo {
+
+/** tolmoMessageSetHeader with a fresh header. */
+void SetHeader( TolmoMessage *msg, KoRef<TolmoMessageHeader> header );
+
+} // namespace tolmo
+
 #endif

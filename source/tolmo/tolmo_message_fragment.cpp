@@ -339,8 +339,11 @@ KoVector tolmoMessageFragmentHeadersVector( TolmoMessageFragment frag )
     KO_REQUIRE( frag );
     auto headers = tolmo::Adopt( koVectorCreate() );
     for ( KoInt i = 0; i < frag->headers->count; ++i ) {
-        const auto header = tolmo::HeaderOf( frag->headers, frag->headers->Entries()[i] );
-        koVectorAppendObj( headers.Address(), tolmoMessageHeaderObj( header.Get() ) );
+        const tolmo::HeaderEntry &entry = frag->headers->Entries()[i];
+        if ( entry.known != tolmo::deletedName ) {
+            const auto header = tolmo::HeaderOf( frag->headers, entry );
+            koVectorAppendObj( headers.Address(), tolmoMessageHeaderObj( header.Get() ) );
+        }
     }
     return headers.Leak();
 }
@@ -390,7 +393,7 @@ void tolmoMessageFragmentSetHeader( TolmoMessageFragment *frag, TolmoMessageHead
     KO_REQUIRE_HANDLE( frag );
     KO_REQUIRE( header );
     tolmo::MakeUnique( frag, tolmoMessageFragmentCreateFrom );
-    tolmo::SetHeader( &( *frag )->headers, header );
+    tolmo::SetHeader( &( *frag )->headers, tolmo::Share( header ) );
 }
 
 void tolmoMessageFragmentDelHeader( TolmoMessageFragment *frag, KoString name )

@@ -89,7 +89,7 @@ public:
                 lengthWritten = true;
             } else if ( entry.header ) {
                 WriteHeader( output, entry.header );
-            } else {
+            } else if ( entry.known != deletedName ) {
                 WriteRawHeader( output, table->decoded, entry );
             }
         }
@@ -143,7 +143,7 @@ private:
         for ( KoInt i = 0; i < length; ++i ) {
             output.Write( header->name );
             output.Write( ": ", 2 );
-            output.Write( StringAt( header->lines, i ).Get() );
+            output.Write( LentStringAt( header->lines, i ) );
             output.Write( "\r\n", 2 );
         }
     }

@@ -77,6 +77,12 @@ KoRef<TolmoMessageHeader> tolmo::CreateMessageHeader( KoRef<KoString> name, KoRe
     return header;
 }
 
+void tolmo::AppendLine( TolmoMessageHeader header, KoRef<KoString> value )
+{
+    KO_REQUIRE_AS( tolmoMessageHeaderLineOk( value.Get() ), "tolmoMessageHeaderLineOk( value )" );
+    AppendString( header->lines, std::move( value ) );
+}
+
 TolmoMessageHeader tolmoMessageHeaderCreate( KoString name )
 {
     KO_REQUIRE( tolmoMessageHeaderNameOk( name ) );

@@ -16,6 +16,9 @@ namespace tolmo {
 /** A new header from a name in normal form and a vector of valid lines, both without a test. */
 KoRef<TolmoMessageHeader> CreateMessageHeader( KoRef<KoString> name, KoRef<KoVector> lines );
 
+/** Adds a fresh line, which is tested, to a header that is the caller's alone. */
+void AppendLine( TolmoMessageHeader header, KoRef<KoString> value );
+
 } // namespace tolmo
 
 #endif

@@ -20,7 +20,7 @@ inline void AddSeconds( Builder &text, std::string_view name, KoInt seconds )
 {
     if ( seconds != -1 ) {
         AddParamName( text, name );
-        text.Take( tolmo___DeltaSecondsEncode( seconds ) );
+        text.AddNumber( seconds );
     }
 }
 

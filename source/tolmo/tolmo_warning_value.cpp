@@ -112,7 +112,7 @@ KoString tolmo___WarningValueEncode( TolmoWarningValue wv )
 {
     KO_REQUIRE( wv );
     tolmo::Builder text;
-    text.Take( tolmo___WarnCodeEncode( wv->warnCode ) );
+    text.AddNumber( wv->warnCode ); // without zeros in front
     text.Add( ' ' );
     text.Add( wv->warnAgent );
     text.Add( ' ' );

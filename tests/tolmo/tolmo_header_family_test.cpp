@@ -107,18 +107,25 @@ const std::vector<Row> &Rows()
     using enum NoLine;
     // clang-format off
     static const std::vector<Row> rows{
+        ROW( Accept, tolmoHeaderAcceptCreate(), {}, {}, {}, isNull ),
+        ROW( AcceptEncoding, tolmoHeaderAcceptEncodingCreate(), {}, { "Gzip;q=0.5 , *", "identity" }, { "Gzip;q=0.5", "*", "identity" }, isNull ),
         ROW( AcceptResourcePriority, tolmoHeaderAcceptResourcePriorityCreate(), {}, { "q735.1, wps.0" }, { "q735.1", "wps.0" }, isNull ),
+        ROW( AlertInfo, tolmoHeaderAlertInfoCreate(), {}, { "<http://a>;X , <urn:b>", "<sip:c,d>" }, { "<http://a>;X", "<urn:b>", "<sip:c,d>" }, isNull ),
         ROW( Allow, tolmoHeaderAllowCreate(), {}, { "INVITE , ack", "ACK,INVITE" }, { "INVITE,ack,ACK" }, isNull ),
         ROW( AllowEvents, tolmoHeaderAllowEventsCreate(), {}, { "presence.winfo, dialog" }, { "presence.winfo,dialog" }, isNull ),
         ROW( CallId, tolmoHeaderCallIdCreate( Str( "a@b" ).Get() ), { "a@b" }, { "\x01", "1{}@x" }, { "1{}@x" }, isNull ),
+        ROW( CallInfo, tolmoHeaderCallInfoCreate(), {}, { "<http://a>;X , <urn:b>", "<sip:c,d>" }, { "<http://a>;X", "<urn:b>", "<sip:c,d>" }, isNull ),
         ROW( Contact, tolmoHeaderContactCreate(), {}, { "<sip:a> , \"b\" <sip:b>;q=1", "sip:c" }, { "<sip:a> ", "\"b\" <sip:b>;q=1", "sip:c" }, isNull ),
         ROW( ContentDisposition, tolmoHeaderContentDispositionCreate( Str( "Session" ).Get() ), { "session" }, { "/", "Alert;x;HANDLING=Optional" }, { "alert;handling=optional;x" }, isNull ),
         ROW( ContentEncoding, tolmoHeaderContentEncodingCreate(), {}, {}, {}, isEmpty ),
         ROW( Cseq, tolmoHeaderCseqCreate( 1, Str( "Ack" ).Get() ), { "1 Ack" }, { "1", "02 \t INVITE" }, { "2 INVITE" }, isNull ),
         ROW( Date, tolmoHeaderDateCreate( ATime().Get() ), { "Thu, 01 Jan 1970 00:00:00 GMT" }, { "now", "Thu, 21 Feb 2002 13:02:03 GMT" }, { "Thu, 21 Feb 2002 13:02:03 GMT" }, isNull ),
+        ROW( Diversion, tolmoHeaderDiversionCreate(), {}, { "<sip:a>;reason=x , \"b,\" <sip:b>", "<sip:c>" }, { "<sip:a>;reason=x", "\"b,\" <sip:b>", "<sip:c>" }, isNull ),
+        ROW( ErrorInfo, tolmoHeaderErrorInfoCreate(), {}, { "<http://a>;X , <urn:b>", "<sip:c,d>" }, { "<http://a>;X", "<urn:b>", "<sip:c,d>" }, isNull ),
         ROW( Event, tolmoHeaderEventCreate( Str( "presence.winfo" ).Get() ), { "presence.winfo" }, { ".a", "Dialog;x;ID=1" }, { "Dialog;id=1;x" }, isNull ),
         ROW( Expires, tolmoHeaderExpiresCreate( 60 ), { "60" }, { "soon", "0060" }, { "60" }, isNull ),
         ROW( From, tolmoHeaderFromCreate( Str( "sip:a" ).Get() ), { "<sip:a>" }, { "x", "B <sip:b>;x;tag=1;y" }, { "\"B\" <sip:b>;tag=1;x;y" }, isNull ),
+        ROW( HistoryInfo, tolmoHeaderHistoryInfoCreate(), {}, { "<sip:a>;index=1 , <sip:b>;index=1.1", "c <sip:c>;index=2" }, { "<sip:a>;index=1", "<sip:b>;index=1.1", "c <sip:c>;index=2" }, isNull ),
         ROW( InReplyTo, tolmoHeaderInReplyToCreate(), {}, { "a@b, c", "a@b" }, { "a@b,c" }, isNull ),
         ROW( InfoPackage, tolmoHeaderInfoPackageCreate( test::Own( tolmoInfoPackageTypeCreate( Str( "Foo" ).Get() ) ).Get() ), { "foo" }, { "a, b", "Bar;x" }, { "bar;x" }, isNull ),
         ROW( MaxForwards, tolmoHeaderMaxForwardsCreate( 70 ), { "70" }, { "", "069" }, { "69" }, isNull ),
@@ -173,6 +180,7 @@ TEST( HeaderRows, EveryHeaderHasOne )
             << header.type;
     }
     EXPECT_EQ( Rows().size(), AllOperations().size() );
+    EXPECT_EQ( AllOperations().size(), 60U );
 }
 
 /** The words of a type with underscores between them: `p_early_media`. */

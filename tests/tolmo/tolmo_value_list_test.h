@@ -56,9 +56,8 @@ class ValueList : public test::TolmoFixture {
 protected:
     static constexpr char vector[] = "source/runtime/ko_vector.cpp";
 
-    static std::string Item( size_t i ) { return Member::items[i]; }
-
-    /** Not inline: g++ 12 knows its length then, and wrongly warns of an overflow where strings are joined. */
+    // Not inline: g++ 12 knows their lengths then, and wrongly warns of an overflow where strings are joined.
+    [[gnu::noinline]] static std::string Item( size_t i ) { return Member::items[i]; }
     [[gnu::noinline]] static std::string HeaderName() { return Member::header; }
 
     static ListOf<Member> Decode( const test::Strings &lines )
