@@ -2,7 +2,7 @@
  * Typed headers, all of them, over the lines of the input: what decodes, encodes; the lines decode to an equal header and
  * stay as they are from there on; it goes to a store, to a message and over the wire and comes back.
  */
-#include "tables.hpp"
+#include "rules.hpp"
 
 namespace fuzz {
 namespace {
@@ -106,9 +106,11 @@ void CheckHeader( const Header &type, const std::vector<std::string_view> &lines
         CheckSameHeader( type, hdr.Get(), copy.Get() );
         CHECK( tolmoMessageHeaderEquals( Own( type.encode( copy.Get() ) ).Get(), printed.Get() ) );
     }
-    if ( tolmoMessageHeaderLinesLength( printed.Get() ) == 0 ) {
-        return; // an empty list prints no line, and whether that decodes is up to the type
+    // An empty list prints no line, and whether that decodes is up to the type.
+    if ( tolmoMessageHeaderLinesLength( printed.Get() ) == 0 || !PrintsDecodable( type, hdr.Get() ) ) {
+        return;
     }
+    CHECK_TELL( PrintsNamesOnce( type, Take( tolmoMessageHeaderLastLine( printed.Get() ) ) ), type.name );
     const auto again = Own( type.decode( printed.Get() ) );
     CHECK_TELL( again, type.name );
     CHECK( tolmoMessageHeaderEquals( Own( type.encode( again.Get() ) ).Get(), printed.Get() ) );

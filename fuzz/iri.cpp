@@ -23,7 +23,14 @@ void CheckIri( KoString s, const Exact &text )
     CHECK( ( tolmoIriOk( s ) != KO_FALSE ) == whole );
     const auto iri = Own( ulmTryConvertFromUri( s ) );
     CHECK( ( iri.Get() != nullptr ) == whole );
-    CHECK_SAME( Take( ulm___TryConvertFromUriChars( text.Chars(), text.Length() ) ), Text( iri.Get() ) );
+    KoString taken = nullptr;
+    const KoInt length = ulm___TakeIri( text.Chars(), text.Length(), &taken );
+    const auto prefix = Own( taken );
+    CHECK( length == ulm___SkipIri( text.Chars(), text.Length() ) );
+    CHECK( ( length > 0 ) == ( prefix.Get() != nullptr ) );
+    if ( whole ) {
+        CHECK_SAME( Text( prefix.Get() ), Text( iri.Get() ) );
+    }
     if ( !whole ) {
         return;
     }

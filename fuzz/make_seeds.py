@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes the first inputs of the fuzz targets, made from the corpus of messages and from the examples below.
+"""Writes the first inputs of the fuzz targets: the examples below, and what is made from the corpus of messages.
 
-    make_seeds.py OUTPUT        a folder for each target in OUTPUT
+    make_seeds.py OUTPUT        a folder for each target in OUTPUT/examples and OUTPUT/corpus
 """
 import hashlib
 import os
@@ -54,6 +54,23 @@ EXAMPLES = {
     'Rseq': ['4294967295'],
     'Subject': [' A \t B '],
 }
+# A field that is there, and a parameter of its name that does not fit it: the second does not go out.
+for name, example in {
+        'Via': 'SIP/2.0/UDP a;ttl=1;ttl="a";maddr=b;maddr;received=1.2.3.4;received=x;rport=1;rport="x";branch=z;branch="q"',
+        'Contact': '<sip:a>;q=1;q=2;expires=1;expires=x;rc=1;rc=01;mp=1;mp=x;np=1;np=x;+sip.instance="<a>";+sip.instance=b',
+        'History-Info': '<sip:a>;index=1;index=01;rc=1;rc=x;mp=x;np=x',
+        'Diversion': '<sip:a>;reason=a;reason;counter=1;counter=x;limit=1;limit="x";privacy=a;privacy=[::1];screen=a;screen',
+        'Accept': 'text/plain;q=1;q=2', 'Accept-Encoding': 'gzip;q=1;q=2', 'Call-Info': '<a:b>;purpose=x;purpose="y"',
+        'Reason': 'SIP;cause=1;cause=x;text="a";text=b',
+        'User-To-User': '00;encoding=a;encoding="b";purpose=a;purpose="b";content=a;content="b"',
+        'From': '<sip:a>;tag=1;tag="x";epid=1;epid="x"', 'Referred-By': '<sip:a>;cid="1@b";cid=x',
+        'Session-Expires': '90;refresher=uac;refresher="x"', 'Retry-After': '5;duration=1;duration="x"',
+        'Subscription-State': 'active;reason=a;reason="b";expires=1;expires=x;retry-after=1;retry-after=x',
+        'Session-Id': '%s;remote=%s;remote=x' % ('0' * 32, '1' * 32), 'Event': 'a;id=1;id="2"',
+        'Content-Disposition': 'a;handling=b;handling="c"',
+        'Replaces': 'a;from-tag=1;from-tag="x";to-tag=1;to-tag="x";early-only;early-only=1'}.items():
+    EXAMPLES[name].append(example)
+
 IRIS = ['sip:a', 'sips:bob@b\u00fccher.example:5061;x?y#z', 'sip:a@xn--bcher-kva.example', 'tel:+1-2', 'http://[::1]/%41%C3%BC',
         'sip:bob@[2001:db8::1]:5060', 'urn:a:%E2%80%8F', 'b\u00fccher.example', 'xn--bcher-kva.example', 'fa\u00df.de', '1.2.3.4',
         '::ffff:1.2.3.4', '2001:db8:0:0:1::1', '[::1]', 'a%41.b-', 'XN--BCHER-KVA.Example', '\u0628\u0627.example', 'x\u200dy',
@@ -114,11 +131,23 @@ class Seeds:
         self.add('mutator', self.choices(24) + b'\n' + b'\n'.join(lines))
 
 
-def main():
-    if len(sys.argv) != 2:
-        sys.stderr.write(__doc__)
-        return 2
-    seeds = Seeds(sys.argv[1])
+def examples(seeds):
+    for name, lines in EXAMPLES.items():
+        seeds.lines([line.encode() for line in lines])
+        seeds.add('message', 'INVITE sip:a@b SIP/2.0\r\n' + ''.join('%s: %s\r\n' % (name, e) for e in lines) + '\r\n')
+        seeds.add('mutator', seeds.choices(24) + b'\n' + '\n'.join('%s: %s' % (name, e) for e in lines).encode())
+    for text in IRIS + SCALARS:
+        for target in ('iri', 'scalar', 'skip', 'value'):
+            seeds.add(target, text)
+        seeds.add('runtime', seeds.choices(40) + b'\n' + text.encode())
+    for number in ('0', '-5', '9223372036854775807', '-9223372036854775808', '9223372036854775808', 'zz', '7fFFx'):
+        seeds.add('runtime', seeds.choices(40) + b'\n' + number.encode())
+    for text in ('\r\n\r\n', 'Via: x\r\n y\r\n\r\n', 'SIP/2.0 200\r\nl:3\r\n\r\nabcd', 'A sip:b C/1\r\nl: 0\r\n\r\n\r\nA sip:b C/1\r\nl:1\r\n\r\nx'):
+        seeds.add('message', text)
+        seeds.add('stream', text)
+
+
+def traffic(seeds):
     by_name = {}
     framed = []
     for message in messages():
@@ -129,10 +158,6 @@ def main():
         seeds.add('runtime', seeds.choices(32) + b'\n' + message[:200])
         for name, value in headers(message):
             by_name.setdefault(name, {})[value] = True
-    for name, examples in EXAMPLES.items():
-        seeds.lines([e.encode() for e in examples])
-        seeds.add('message', 'INVITE sip:a@b SIP/2.0\r\n' + ''.join('%s: %s\r\n' % (name, e) for e in examples) + '\r\n')
-        seeds.add('mutator', seeds.choices(24) + b'\n' + '\n'.join('%s: %s' % (name, e) for e in examples).encode())
     for values in by_name.values():
         values = list(values)
         seeds.random.shuffle(values)
@@ -140,12 +165,14 @@ def main():
             seeds.lines(values[i:i + 3])
     for i in range(0, len(framed) - 2, 7):
         seeds.add('stream', b'\r\n\r\n'.join(framed[i:i + 3]), 8192)
-    for text in IRIS + SCALARS:
-        for target in ('iri', 'scalar', 'skip', 'value'):
-            seeds.add(target, text)
-        seeds.add('runtime', seeds.choices(40) + b'\n' + text.encode())
-    for number in ('0', '-5', '9223372036854775807', '-9223372036854775808', '9223372036854775808', 'zz', '7fFFx'):
-        seeds.add('runtime', seeds.choices(40) + b'\n' + number.encode())
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.stderr.write(__doc__)
+        return 2
+    examples(Seeds(os.path.join(sys.argv[1], 'examples')))
+    traffic(Seeds(os.path.join(sys.argv[1], 'corpus')))
     return 0
 
 

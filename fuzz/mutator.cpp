@@ -286,7 +286,7 @@ void RunHeaders( const Header &type, const std::vector<std::string_view> &lines,
     }
     objects.Run( choices );
     for ( const Handle &handle : objects.Handles() ) {
-        if ( Encodes( type, handle.object.Get() ) ) {
+        if ( Encodes( type, handle.object.Get() ) && PrintsDecodable( type, handle.object.Get() ) ) {
             const auto printed = Own( type.encode( handle.object.Get() ) );
             if ( tolmoMessageHeaderLinesLength( printed.Get() ) > 0 ) {
                 const auto again = Own( type.decode( printed.Get() ) );

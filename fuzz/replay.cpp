@@ -1,16 +1,15 @@
 /*
  * Runs the targets on files, without libFuzzer: the checked-in corpus in the everyday tests, or a finding.
  *
- *     fuzz_replay CORPUS              all files of CORPUS/TARGET, for every target
+ *     fuzz_replay CORPUS              the packed inputs CORPUS/TARGET of every target
  *     fuzz_replay TARGET FILE...      these files
  */
 #include "fuzz.hpp"
 
-#include <algorithm>
+#include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <unistd.h>
@@ -29,30 +28,40 @@ extern "C" void TellFile( int )
     }
 }
 
-bool RunFile( const fuzz::NamedTarget &target, const std::string &path )
+std::string Read( const std::string &path )
 {
     std::ifstream file( path, std::ios::binary );
-    if ( !file ) {
-        std::fprintf( stderr, "fuzz_replay: cannot read %s\n", path.c_str() );
-        return false;
-    }
-    current = std::string( target.name ) + " " + path;
-    fuzz::Run( target.run, std::string( std::istreambuf_iterator<char>( file ), {} ) );
-    return true;
+    return { std::istreambuf_iterator<char>( file ), {} };
 }
 
-// All inputs of a target, in the order of their names. A target without inputs is a fault.
-bool RunFolder( const fuzz::NamedTarget &target, const std::filesystem::path &folder )
+// The inputs of a packed corpus: a line with the length, the input, a line end. Nothing when the file is not like this.
+std::vector<std::string_view> Unpack( std::string_view pack )
 {
-    std::vector<std::string> paths;
-    std::error_code error;
-    for ( const auto &entry : std::filesystem::directory_iterator( folder, error ) ) {
-        paths.push_back( entry.path().string() );
+    std::vector<std::string_view> inputs;
+    while ( !pack.empty() ) {
+        size_t length = 0;
+        const auto end = std::from_chars( pack.data(), pack.data() + pack.size(), length ).ptr;
+        pack.remove_prefix( static_cast<size_t>( end - pack.data() ) );
+        if ( pack.size() < 2 || length > pack.size() - 2 || pack[0] != '\n' || pack[length + 1] != '\n' ) {
+            return {};
+        }
+        inputs.push_back( pack.substr( 1, length ) );
+        pack.remove_prefix( length + 2 );
     }
-    std::sort( paths.begin(), paths.end() );
-    std::printf( "%s: %zu inputs\n", target.name, paths.size() );
-    return !paths.empty() && std::all_of( paths.begin(), paths.end(),
-                                          [&]( const std::string &path ) { return RunFile( target, path ); } );
+    return inputs;
+}
+
+// All inputs of a target. A target without inputs is a fault.
+bool RunPack( const fuzz::NamedTarget &target, const std::string &path )
+{
+    const std::string pack = Read( path );
+    const std::vector<std::string_view> inputs = Unpack( pack );
+    for ( size_t i = 0; i < inputs.size(); ++i ) {
+        current = path + ", input " + std::to_string( i );
+        fuzz::Run( target.run, inputs[i] );
+    }
+    std::printf( "%s: %zu inputs\n", target.name, inputs.size() );
+    return !inputs.empty();
 }
 
 } // namespace
@@ -60,20 +69,23 @@ bool RunFolder( const fuzz::NamedTarget &target, const std::filesystem::path &fo
 int main( int argc, char **argv )
 {
     std::signal( SIGABRT, TellFile );
-    bool good = argc > 1;
-    if ( argc == 2 ) {
-        for ( const fuzz::NamedTarget &target : fuzz::Targets() ) {
-            good = RunFolder( target, std::filesystem::path( argv[1] ) / target.name ) && good;
-        }
-        return good ? 0 : 1;
-    }
+    bool good = true;
+    bool known = false;
     for ( const fuzz::NamedTarget &target : fuzz::Targets() ) {
-        if ( argc > 2 && std::strcmp( argv[1], target.name ) == 0 ) {
-            return std::all_of( argv + 2, argv + argc, [&]( const char *path ) { return RunFile( target, path ); } )
-                       ? 0
-                       : 1;
+        if ( argc == 2 ) {
+            known = true;
+            good = RunPack( target, std::string( argv[1] ) + "/" + target.name ) && good;
+        } else if ( argc > 2 && std::strcmp( argv[1], target.name ) == 0 ) {
+            known = true;
+            for ( int i = 2; i < argc; ++i ) {
+                current = argv[i];
+                fuzz::Run( target.run, Read( current ) );
+            }
         }
     }
-    std::fprintf( stderr, "usage: fuzz_replay CORPUS\n       fuzz_replay TARGET FILE...\n" );
-    return 2;
+    if ( !known ) {
+        std::fprintf( stderr, "usage: fuzz_replay CORPUS\n       fuzz_replay TARGET FILE...\n" );
+        return 2;
+    }
+    return good ? 0 : 1;
 }

@@ -30,6 +30,16 @@ inline bool PrintsDecodable( const Type &type, KoObj value )
         // The code prints without leading zeros, and needs three digits.
         return std::stol( get( "WarnCode" ) ) >= 100;
     }
+    // A quoted value with an escape in it is no value of these fields, and stays a parameter. It prints without the
+    // escape, and is the field's from then on.
+    const char *const lifted = type.name == "Contact"            ? "+sip.instance"
+                               : type.name == "HeaderReferredBy" ? "cid"
+                                                                 : nullptr;
+    if ( lifted ) {
+        const auto params = Own( type.params( value ) );
+        return tolmoGenericParamsParamValueTypeCstr( params.Get(), lifted, -1 ) !=
+               TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING;
+    }
     return true;
 }
 

@@ -122,6 +122,8 @@ void CheckSearch( const std::u32string &text, Choices choices )
     }
 }
 
+__extension__ typedef __int128 Large;
+
 void CheckNumbers( const std::u32string &text, Choices choices )
 {
     const auto base = static_cast<KoInt>( 2 + choices.Below( 35 ) );
@@ -133,11 +135,11 @@ void CheckNumbers( const std::u32string &text, Choices choices )
         return value < base ? value : -1;
     };
     const bool minus = !text.empty() && text[0] == '-';
-    __int128 naive = 0;
+    Large naive = 0;
     size_t at = minus ? 1 : 0;
     bool fits = at < text.size() && digit( text[at] ) >= 0;
     for ( ; at < text.size() && digit( text[at] ) >= 0; ++at ) {
-        naive = std::min<__int128>( naive * base + digit( text[at] ), static_cast<__int128>( INT64_MAX ) * 4 );
+        naive = std::min<Large>( naive * base + digit( text[at] ), static_cast<Large>( INT64_MAX ) * 4 );
     }
     naive = minus ? -naive : naive;
     fits = fits && naive >= INT64_MIN && naive <= INT64_MAX;

@@ -1,6 +1,6 @@
 /*
- * Streams: any split into writes, in any of their forms, gives the messages that one write gives, and the first message
- * is what the datagram decoder makes of the bytes, wherever both accept them.
+ * Streams: any split into writes, in any of their forms, gives the messages that one write gives, and these are what the
+ * datagram decoder makes of the bytes, one message behind the other.
  */
 #include "fuzz.hpp"
 
@@ -78,22 +78,36 @@ void CheckSplit( const Result &whole, const Result &split )
     CHECK( whole.error || whole.length == split.length ); // behind an error, writes are refused
 }
 
-// What a stream adds to a datagram: a body that is always there, Content-Length that has to be.
-void CheckDatagram( std::string_view input, const Result &whole )
+// True when a head, with the end of its last line, is one that a stream needs: a start line and a Content-Length.
+bool IsFramed( std::string_view head )
 {
-    while ( input.size() >= 2 && input.substr( 0, 2 ) == "\r\n" ) {
-        input.remove_prefix( 2 );
-    }
-    const auto msg = Own( tolmoMessageTryDecode( Buf( input ).Get() ) );
-    const bool framed = input.find( "\r\n\r\n" ) != std::string_view::npos && msg &&
-                        tolmoMessageHasHeaderCstr( msg.Get(), "Content-Length", -1 );
-    CHECK( framed == !whole.messages.empty() );
-    if ( framed ) {
-        auto withBody = Own( tolmoMessageRetain( msg.Get() ) );
-        if ( !tolmoMessageHasBody( msg.Get() ) ) {
-            tolmoMessageSetBody( withBody.Address(), Own( koBufferCreate() ).Get() );
+    KoInt contentLength = -1;
+    const auto frag = Own( tolmoMessageFragmentTryDecodeHeaders( Buf( head ).Get(), &contentLength ) );
+    return frag && contentLength != -1 && !tolmoMessageFragmentIsNeitherRequestNorResponse( frag.Get() );
+}
+
+// The messages of a stream are the datagrams that follow one another in it, but for a body that is always there.
+void CheckDatagrams( std::string_view input, const Result &whole )
+{
+    for ( size_t i = 0;; ++i ) {
+        while ( input.substr( 0, 2 ) == "\r\n" ) {
+            input.remove_prefix( 2 );
         }
-        CHECK_SAME( Describe( withBody.Get(), true ), whole.messages[0] );
+        const size_t end = input.find( "\r\n\r\n" );
+        const bool framed = end != std::string_view::npos && IsFramed( input.substr( 0, end + 2 ) );
+        auto msg = Own( tolmoMessageTryDecode( Buf( input ).Get() ) );
+        if ( !framed || !msg ) { // a head that is not complete or not good, or a body that is not complete
+            CHECK( i == whole.messages.size() );
+            CHECK( whole.error == ( end != std::string_view::npos && !framed ) );
+            CHECK( whole.length == static_cast<KoInt>( input.size() ) );
+            return;
+        }
+        if ( !tolmoMessageHasBody( msg.Get() ) ) {
+            tolmoMessageSetBody( msg.Address(), Own( koBufferCreate() ).Get() );
+        }
+        CHECK( i < whole.messages.size() );
+        CHECK_SAME( Describe( msg.Get(), true ), whole.messages[i] );
+        input.remove_prefix( end + 4 + TakeBytes( tolmoMessageBody( msg.Get() ) ).size() );
     }
 }
 
@@ -108,7 +122,7 @@ void StreamTarget( std::string_view input )
     if ( input.size() <= 1024 ) {
         CheckSplit( whole, Split( input, 1, true ) );
     }
-    CheckDatagram( input, whole );
+    CheckDatagrams( input, whole );
 }
 
 } // namespace fuzz

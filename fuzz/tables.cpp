@@ -1,7 +1,9 @@
 /* The tables, filled from the rows that make_types.py makes. */
 #include "tables.hpp"
 
+#include <algorithm>
 #include <map>
+#include <set>
 #include <type_traits>
 
 namespace fuzz {
@@ -224,9 +226,12 @@ std::vector<std::string> ItemTexts( const Items &items, KoObj hdr )
     return texts;
 }
 
-bool HidesParams( const Type &type, KoObj x )
+namespace {
+
+// The parameters that a type lifts into fields; null when there are none. Replaces prints its generic parameters whole,
+// and hides none.
+const std::vector<const char *> *Lifted( const Type &type )
 {
-    // The parameters that a type lifts into fields. Replaces prints its generic parameters whole, and hides none.
     static const std::map<std::string, std::vector<const char *>> lifted = {
         { "Via", { "ttl", "maddr", "received", "rport", "branch" } },
         { "Contact", { "q", "expires", "rc", "mp", "np", "+sip.instance", "+sip.src", "+sip.srs" } },
@@ -248,16 +253,39 @@ bool HidesParams( const Type &type, KoObj x )
         { "HeaderContentDisposition", { "handling" } },
     };
     const auto row = lifted.find( type.name );
+    return row == lifted.end() ? nullptr : &row->second;
+}
+
+} // namespace
+
+bool HidesParams( const Type &type, KoObj x )
+{
+    const std::vector<const char *> *const lifted = Lifted( type );
     const auto params = Own( type.params ? type.params( x ) : nullptr );
-    if ( row == lifted.end() || !params ) {
-        return false;
-    }
-    for ( const char *name : row->second ) {
-        if ( tolmoGenericParamsHasParamCstr( params.Get(), name, -1 ) ) {
-            return true;
+    return lifted && params && std::any_of( lifted->begin(), lifted->end(), [&]( const char *name ) {
+               return tolmoGenericParamsHasParamCstr( params.Get(), name, -1 ) != KO_FALSE;
+           } );
+}
+
+bool PrintsNamesOnce( const Type &type, const std::string &printed )
+{
+    std::set<std::string> names;
+    bool quoted = false;
+    bool bracketed = false;
+    for ( size_t i = 0; Lifted( type ) && i < printed.size(); ++i ) {
+        const char c = printed[i];
+        if ( quoted && c == '\\' ) {
+            ++i;
+        } else if ( c == '"' && !bracketed ) {
+            quoted = !quoted;
+        } else if ( !quoted && ( c == '<' || c == '>' ) ) {
+            bracketed = c == '<';
+        } else if ( c == ';' && !quoted && !bracketed &&
+                    !names.insert( printed.substr( i, printed.find_first_of( ";=", i + 1 ) - i ) ).second ) {
+            return false;
         }
     }
-    return false;
+    return true;
 }
 
 } // namespace fuzz

@@ -128,6 +128,9 @@ std::vector<std::string> ItemTexts( const Items &items, KoObj hdr );
  */
 bool HidesParams( const Type &type, KoObj x );
 
+/** True when no parameter stands twice in what a type prints that hides such parameters. */
+bool PrintsNamesOnce( const Type &type, const std::string &printed );
+
 } // namespace fuzz
 
 #endif

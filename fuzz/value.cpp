@@ -28,6 +28,7 @@ void ValueTarget( std::string_view input )
         if ( !PrintsDecodable( type, value.Get() ) ) {
             continue;
         }
+        CHECK_TELL( PrintsNamesOnce( type, printed ), printed );
         const Exact printedChars( printed );
         const auto again = Own( type.decode( printedChars.Chars(), printedChars.Length() ) );
         CHECK_TELL( again, type.name + ": " + printed );

@@ -58,6 +58,20 @@ bool IsAbortLine( const std::string &line, std::string_view message, std::string
     return at > begin.size() && line.substr( at ) == ": " + std::string( expression );
 }
 
+testing::AssertionResult Aborts( const char *text, const std::function<void()> &statement, std::string_view message,
+                                 std::string_view path, std::string_view expression )
+{
+    const Ending ending = RunInChild( statement );
+    if ( !ending.aborted ) {
+        return testing::AssertionFailure() << text << " did not abort";
+    }
+    if ( !IsAbortLine( ending.line, message, path, expression ) ) {
+        return testing::AssertionFailure() << text << "\n  wrote:    " << ending.line << "\n  expected: " << message
+                                           << ( message.empty() ? "" : ": " ) << path << ":*: " << expression;
+    }
+    return testing::AssertionSuccess();
+}
+
 } // namespace test
 
 int main( int argc, char **argv )

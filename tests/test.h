@@ -94,9 +94,16 @@ struct Ending {
 /** Runs a statement in a child process. */
 Ending RunInChild( const std::function<void()> &statement );
 
-/** True when `line` is the abort line of `expression` in the file `path` (without its line number), with `message`. */
+/** True when `line` is the abort line of `expression` in the file `path`, with `message`, whatever its line number. */
 bool IsAbortLine( const std::string &line, std::string_view message, std::string_view path,
                   std::string_view expression );
+
+/**
+ * Success when a statement aborts with exactly the line of `expression` in the file `path` (whatever the line number),
+ * with `message` in front. `text` is the statement, for the report.
+ */
+testing::AssertionResult Aborts( const char *text, const std::function<void()> &statement, std::string_view message,
+                                 std::string_view path, std::string_view expression );
 
 /** The reference count of an object that is no constant. */
 template <class Handle>
@@ -122,12 +129,7 @@ private:
 
 /** EXPECT_ABORT with the message in front of the line. */
 #define EXPECT_ABORT_MESSAGE( statement, message, path, expression )                                                   \
-    do {                                                                                                               \
-        const test::Ending ending = test::RunInChild( [&] { statement; } );                                            \
-        EXPECT_TRUE( ending.aborted ) << #statement << " did not abort";                                               \
-        EXPECT_TRUE( test::IsAbortLine( ending.line, message, path, expression ) )                                     \
-            << #statement << "\n  wrote:    " << ending.line << "\n  expected: " << ( message ) << ( path )            \
-            << ":*: " << ( expression );                                                                               \
-    } while ( 0 )
+    EXPECT_TRUE( test::Aborts(                                                                                         \
+        #statement, [&] { statement; }, message, path, expression ) )
 
 #endif

@@ -181,7 +181,7 @@ int main( int argc, char **argv )
     }
     options.colored = color == "always" || ( color == "auto" && isatty( STDOUT_FILENO ) != 0 );
     if ( options.files.empty() ) {
-        options.files.push_back( "-" );
+        options.files.emplace_back( "-" );
     }
     if ( word == "headers" ) {
         return Finish( ListHeaders() );

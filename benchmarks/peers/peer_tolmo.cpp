@@ -170,8 +170,8 @@ long Hop( void *, const char *bytes, size_t length, char *to, size_t capacity )
     const auto transport = Ref<KoString>::Adopt( koStringCreateFromCstr( "udp", 3 ) );
     const auto host = Ref<KoString>::Adopt( koStringCreateFromCstr( HOP_VIA_HOST, -1 ) );
     const auto branch = Ref<KoString>::Adopt( koStringCreateFromCstr( HOP_VIA_BRANCH, -1 ) );
-    auto via = Ref<TolmoVia>::Adopt(
-        tolmoViaCreateWithPort( version.Get(), transport.Get(), host.Get(), HOP_VIA_PORT ) );
+    auto via =
+        Ref<TolmoVia>::Adopt( tolmoViaCreateWithPort( version.Get(), transport.Get(), host.Get(), HOP_VIA_PORT ) );
     tolmoViaSetBranch( via.Address(), branch.Get() );
     auto vias = Ref<TolmoHeaderVia>::Adopt( tolmoHeaderViaTryDecodeFromMessage( msg.Get() ) );
     tolmoHeaderViaPrependVia( vias.Address(), via.Get() );

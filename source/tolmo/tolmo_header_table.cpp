@@ -262,16 +262,13 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
     if ( own->index ) {
         own->index.Remove( HashOf( own, *entry ), place );
     }
-    if ( entry->header ) {
-        ko___Release( tolmoMessageHeaderObj( entry->header ) );
-    }
+    Store( entry->header, {} );
     if ( !own->index ) {
         --own->count;
         memmove( static_cast<void *>( entry ), entry + 1,
                  static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
         return;
     }
-    entry->header = nullptr;
     entry->known = deletedName;
     ++own->deleted;
     if ( own->deleted > own->count / 2 ) {

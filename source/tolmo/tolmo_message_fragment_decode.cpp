@@ -94,6 +94,7 @@ public:
                 ends[count] = place;
             }
             ++count;
+            filled += place > last + 2;
             last = place;
             return true;
         } );
@@ -102,8 +103,8 @@ public:
     /** Where the empty line begins, -1 when there is none. */
     [[nodiscard]] KoInt EmptyLine() const { return emptyLine; }
 
-    /** The number of lines: one for each CR LF, and one for what stands behind the last. */
-    [[nodiscard]] KoInt Lines() const { return count + 1; }
+    /** How many lines there are at most that are not empty: those with a CR LF, and what stands behind the last. */
+    [[nodiscard]] KoInt FilledLines() const { return filled + 1; }
 
     /** Where line `line` ends, which begins at `begin`. The first ones are remembered. */
     [[nodiscard]] KoInt EndOf( KoInt line, const uint8_t *bytes, KoInt begin, KoInt length ) const
@@ -117,8 +118,9 @@ public:
 private:
     static constexpr KoInt kept = 64;
 
-    KoInt count = 0; // of CR LF
-    KoInt last = -1;
+    KoInt count = 0;  // of CR LF
+    KoInt filled = 0; // of those that do not end an empty line
+    KoInt last = -2;
     KoInt emptyLine = -1;
     KoInt ends[kept]; // NOLINT: only the first `count` are set, and read
 };
@@ -334,12 +336,12 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     if ( !IsUtf8( bytes, length ) ) {
         return {};
     }
-    auto decoded = CreateDecodedHead( ends.Lines(), length );
+    auto decoded = CreateDecodedHead( ends.FilledLines(), length );
     DecodedHead *const head = decoded.Get();
     if ( length > 0 ) {
         memcpy( head->Text(), bytes, static_cast<size_t>( length ) );
     }
-    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.Lines() + 2, 20 ), std::move( decoded ) ) );
+    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.FilledLines() + 2, 20 ), std::move( decoded ) ) );
     const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
     switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {

@@ -165,8 +165,9 @@ TEST_F( MemoryTest, ManyThreadsComeAndGo )
         for ( int i = 0; i < 8; ++i ) {
             threads.emplace_back( [&, i] {
                 for ( int32_t j = 0; j < 100; ++j ) {
-                    const ko::Block block = ko::Allocate( static_cast<size_t>( 1 + i * 100 + j ) );
-                    memset( block.memory, i, block.size );
+                    const auto size = static_cast<size_t>( 1 + i * 100 + j );
+                    const ko::Block block = ko::Allocate( size );
+                    memset( block.memory, i, size );
                     if ( j < i ) {
                         const std::lock_guard guard( lock );
                         kept.push_back( block );

@@ -27,33 +27,33 @@ TEST_F( Diversion, StandardOperations )
 {
     const auto diversion = Decode( "A <sip:a>;reason=r;counter=1;limit=2;privacy=p;screen=s;x" );
     const TolmoDiversion object = diversion.Get();
-    const KoSort sort = tolmoDiversionSort();
+    const KoSort sort = Value::Sort();
     EXPECT_EQ( sort->name, std::string( "TOLMO_DIVERSION" ) );
-    EXPECT_EQ( koObjSort( tolmoDiversionObj( object ) ), sort );
+    EXPECT_EQ( koObjSort( Value::Obj( object ) ), sort );
     EXPECT_EQ( sort->compare, nullptr );
     EXPECT_EQ( sort->toString, nullptr );
-    EXPECT_EQ( tolmoDiversionFrom( tolmoDiversionObj( object ) ), object );
-    EXPECT_EQ( tolmoDiversionFrom( nullptr ), nullptr );
-    EXPECT_EQ( test::Take( tolmoDiversionToString( object ) ), "<TOLMO_DIVERSION>" ); // not the wire text
+    EXPECT_EQ( Value::From( Value::Obj( object ) ), object );
+    EXPECT_EQ( Value::From( nullptr ), nullptr );
+    EXPECT_EQ( test::Take( Value::ToString( object ) ), "<TOLMO_DIVERSION>" ); // not the wire text
 
-    const auto copy = test::Own( tolmoDiversionCreateFrom( object ) );
+    const auto copy = test::Own( Value::CreateFrom( object ) );
     EXPECT_EQ( Encode( copy ), Encode( diversion ) );
-    EXPECT_TRUE( tolmoDiversionEquals( object, object ) );
-    EXPECT_FALSE( tolmoDiversionEquals( object, copy.Get() ) ); // the same text, another object
-    EXPECT_FALSE( tolmoDiversionEquals( object, nullptr ) );
-    EXPECT_TRUE( tolmoDiversionEquals( nullptr, nullptr ) );
-    EXPECT_EQ( tolmoDiversionCompare( object, object ), 0 );
-    EXPECT_EQ( tolmoDiversionCompare( object, copy.Get() ) < 0, tolmoDiversionCompare( copy.Get(), object ) > 0 );
+    EXPECT_TRUE( Value::Equals( object, object ) );
+    EXPECT_FALSE( Value::Equals( object, copy.Get() ) ); // the same text, another object
+    EXPECT_FALSE( Value::Equals( object, nullptr ) );
+    EXPECT_TRUE( Value::Equals( nullptr, nullptr ) );
+    EXPECT_EQ( Value::Compare( object, object ), 0 );
+    EXPECT_EQ( Value::Compare( object, copy.Get() ) < 0, Value::Compare( copy.Get(), object ) > 0 );
 
     const auto string = Str( "another sort" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionFrom( koStringObj( string.Get() ) ), "stdfunc from", path,
+    EXPECT_ABORT_MESSAGE( Value::From( koStringObj( string.Get() ) ), "stdfunc from", path,
                           "!obj || koObjSort(obj)==&tolmo___sort_TOLMO_DIVERSION" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionRetain( nullptr ), "stdfunc retain", path, "obj" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionRelease( nullptr ), "stdfunc release", path, "obj" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionCompare( nullptr, object ), "stdfunc compare a", path, "objA" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionCompare( object, nullptr ), "stdfunc compare b", path, "objB" );
-    EXPECT_ABORT_MESSAGE( tolmoDiversionToString( nullptr ), "stdfunc tostring", path, "obj" );
-    EXPECT_ABORT( tolmoDiversionCreateFrom( nullptr ), path, "source" );
+    EXPECT_ABORT_MESSAGE( Value::Retain( nullptr ), "stdfunc retain", path, "obj" );
+    EXPECT_ABORT_MESSAGE( Value::Release( nullptr ), "stdfunc release", path, "obj" );
+    EXPECT_ABORT_MESSAGE( Value::Compare( nullptr, object ), "stdfunc compare a", path, "objA" );
+    EXPECT_ABORT_MESSAGE( Value::Compare( object, nullptr ), "stdfunc compare b", path, "objB" );
+    EXPECT_ABORT_MESSAGE( Value::ToString( nullptr ), "stdfunc tostring", path, "obj" );
+    EXPECT_ABORT( Value::CreateFrom( nullptr ), path, "source" );
     EXPECT_ABORT( sort->free( nullptr ), path, "diversion" );
 }
 

@@ -8,7 +8,14 @@ using test::Str;
 using test::Take;
 
 struct Functions {
-    TEST_VALUE_FUNCTIONS( Reason, "tolmo_reason", "reason" )
+    using Handle = TolmoReason;
+    static constexpr auto Encode = tolmo___ReasonEncode;
+    static constexpr auto TryDecode = tolmo___ReasonTryDecode;
+    static constexpr auto Skip = tolmo___SkipReason;
+    static constexpr auto GenericParams = tolmoReasonGenericParams;
+    static constexpr auto SetGenericParams = tolmoReasonSetGenericParams;
+    static constexpr char path[] = "source/tolmo/tolmo_reason.cpp";
+    static constexpr char name[] = "reason";
 };
 
 class Reason : public test::TolmoFixture {};
