@@ -17,6 +17,9 @@ using ko::Entries;
 constexpr KoInt firstCapacity = 4;
 // Up to so many entries a look at each of them is faster than a hash.
 constexpr KoInt smallLength = 8;
+// So many entries are moved one by one when one behind them goes.
+constexpr KoInt nearFront = 16;
+
 // So that the room for entries, which is at most about twice as much, stays inside the limit of the index.
 constexpr KoInt lengthLimit = ko::Index::limit / 4;
 
@@ -303,7 +306,16 @@ void koDictDelStringKey( KoDict *d, KoString key )
         own->index.Remove( hash, own->first + index );
     }
     --own->length;
-    if ( index == 0 ) {
+    if ( index <= nearFront && index < behind ) {
+        // The few entries in front move up one place, and all others stay where they are.
+        for ( KoInt i = index; i-- > 0; ) {
+            const DictEntry &moved = Entries( own )[i + 1] = Entries( own )[i];
+            if ( own->index ) {
+                const uint32_t movedHash = Hash( moved.key );
+                own->index.Remove( movedHash, own->first + i );
+                own->index.Add( movedHash, own->first + i + 1 );
+            }
+        }
         ++own->first;
     } else {
         MoveEntries( Entries( own ) + index, Entries( own ) + index + 1, behind );
