@@ -128,14 +128,15 @@ class Seeds:
             for iri in re.findall(rb'[a-z]+:[^>;, "]+', line):
                 self.add('iri', iri)
         self.add('header', b'\n'.join(lines))
-        self.add('mutator', self.choices(24) + b'\n' + b'\n'.join(lines))
+        for kind in (b'0', b'2'):
+            self.add('mutator', kind + self.choices(24) + b'\n' + b'\n'.join(lines))
 
 
 def examples(seeds):
     for name, lines in EXAMPLES.items():
         seeds.lines([line.encode() for line in lines])
         seeds.add('message', 'INVITE sip:a@b SIP/2.0\r\n' + ''.join('%s: %s\r\n' % (name, e) for e in lines) + '\r\n')
-        seeds.add('mutator', seeds.choices(24) + b'\n' + '\n'.join('%s: %s' % (name, e) for e in lines).encode())
+        seeds.add('mutator', b'1' + seeds.choices(24) + b'\n' + '\n'.join('%s: %s' % (name, e) for e in lines).encode())
     for text in IRIS + SCALARS:
         for target in ('iri', 'scalar', 'skip', 'value'):
             seeds.add(target, text)
