@@ -464,6 +464,25 @@ TEST_F( Decode, Corpus )
     EXPECT_GT( refusals, 0u );
 }
 
+/** Heads of every size up to a few hundred lines: what is kept of the first ones, and found anew of later ones. */
+TEST_F( Decode, EveryNumberOfLines )
+{
+    for ( size_t count = 0; count < 300; ++count ) {
+        std::string bytes = count % 2 ? "OPTIONS sip:a SIP/2.0\r\n" : "";
+        for ( size_t i = 0; i < count; ++i ) {
+            const std::string number = std::to_string( i * 7 % 101 );
+            bytes +=
+                i % 5 ? "X-" + number + ":" + std::string( i % 40, 'x' ) + "\r\n" : "v: " + number + "\r\n  fold\r\n";
+        }
+        for ( const std::string &all : { bytes, bytes + "\r\n", bytes + "\r\nbody", bytes + "To: a" } ) {
+            ExpectSameAsReference( all );
+            if ( HasFatalFailure() ) {
+                return;
+            }
+        }
+    }
+}
+
 TEST_F( Decode, LargeShapes )
 {
     const std::string start = "OPTIONS sip:a SIP/2.0\r\n";
