@@ -7,6 +7,7 @@
 #include <runtime/ko_dict.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace tolmo {
 namespace {
@@ -178,15 +179,19 @@ HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
 {
     HeaderTable *own = *table;
     if ( own->count == own->capacity ) {
-        // The entries and the index move; the old table has nothing left to free.
+        // The entries move and then, as the old table is gone, the index.
         HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
         std::swap( grown->decoded, own->decoded );
         std::swap( grown->count, own->count );
         grown->deleted = own->deleted;
-        grown->index = own->index ? own->index.Moved( grown->capacity, 0 ) : ko::Index();
         memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
                 static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
+        ko::Index index = std::exchange( own->index, {} );
         ko___Release( &own->head );
+        if ( index ) {
+            grown->index = index.Moved( grown->capacity, 0 );
+            index.Free();
+        }
         *table = own = grown;
     }
     HeaderEntry *const appended = own->Entries() + own->count++;

@@ -82,6 +82,17 @@ inline const std::vector<Shape> headerShapes{
     { "lines of a list", true, []( size_t n ) { return Times( n, "Supported: a, b\r\n" ); } },
     { "two names by turns", true, []( size_t n ) { return Times( n, "a: 1\r\nb: 2\r\n" ); } },
     { "names", true, []( size_t n ) { return Numbered( n, "#: a\r\n" ); } },
+    { "names of three letters", true,
+      []( size_t n ) {
+          std::string all;
+          for ( size_t i = 0; i < n; ++i ) {
+              for ( const size_t place : { size_t{ 900 }, size_t{ 30 }, size_t{ 1 } } ) {
+                  all += "abcdefghijklmnopqrstuvwxyz0123"[i / place % 30];
+              }
+              all += ":\r\n";
+          }
+          return all;
+      } },
     { "names that a weak hash confuses", true, []( size_t n ) { return Collisions( n, ": a\r\n" ); } },
     { "a long name", true, []( size_t n ) { return Header( Times( n, "a" ), "b" ); } },
     { "a long name of hyphens", true, []( size_t n ) { return Header( Times( n, "a-" ), "b" ); } },
