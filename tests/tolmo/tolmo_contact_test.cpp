@@ -252,6 +252,16 @@ TEST_F( Contact, Rows )
     EXPECT_ABORT( tolmo___ContactEncode( nullptr ), path, "contact" );
 }
 
+// An escape makes the value none of the field, so the parameter stays where it is; it goes out without the escape, which
+// makes it the field's for the next reader.
+TEST_F( Contact, EscapedInstance )
+{
+    const auto contact = Decode( "<sip:a>;x;+sip.instance=\"<a\\:b>\"" );
+    EXPECT_FALSE( tolmoContactHasSipInstance( contact.Get() ) );
+    EXPECT_EQ( Encode( contact ), "<sip:a>;x;+sip.instance=\"<a:b>\"" );
+    EXPECT_EQ( Encode( Decode( Encode( contact ) ) ), "<sip:a>;+sip.instance=\"<a:b>\";x" );
+}
+
 TEST_F( Contact, DecodedFields )
 {
     const auto contact = Decode( "\"A  B\" <sip:a;lr>;x=1;q=0.123;expires=007;rc=1.10;mp=0;np=2;"

@@ -170,6 +170,17 @@ TEST_F( NameAddress, CidRows )
                      { "<sip:a>;x;cid=\"a@b\"", "<sip:a>;x;cid=\"a@b\"" } ); // elsewhere it is one of the others
 }
 
+// An escape makes the value no cid, so the parameter stays where it is; it goes out without the escape, which makes it a cid
+// for the next reader.
+TEST_F( NameAddress, EscapedCid )
+{
+    const auto hdr = test::Decode( referredBy, "<sip:a>;x;cid=\"a\\@b\"" );
+    EXPECT_FALSE( tolmoHeaderReferredByHasCid( hdr.Get() ) );
+    EXPECT_EQ( test::Take( tolmoHeaderReferredByToString( hdr.Get() ) ), "<sip:a>;x;cid=\"a@b\"" );
+    const auto again = test::Decode( referredBy, "<sip:a>;x;cid=\"a@b\"" );
+    EXPECT_TRUE( tolmoHeaderReferredByHasCid( again.Get() ) );
+}
+
 TEST_F( NameAddress, Cid )
 {
     using H = TolmoHeaderReferredBy;
