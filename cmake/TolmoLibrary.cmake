@@ -19,6 +19,9 @@ target_compile_options( tolmo_options INTERFACE
     -fmacro-prefix-map=${PROJECT_SOURCE_DIR}/=
     -fmacro-prefix-map=${source_from_build}=
 )
+if( TOLMO_ARCH AND CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64)$" )
+    target_compile_options( tolmo_options INTERFACE -march=${TOLMO_ARCH} )
+endif()
 if( TOLMO_FUZZ )
     set( TOLMO_SANITIZE fuzzer-no-link,address,undefined )
 endif()

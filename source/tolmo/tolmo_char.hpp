@@ -2,6 +2,7 @@
 #ifndef TOLMO_CHAR_HPP
 #define TOLMO_CHAR_HPP
 
+#include <runtime/ko_ascii_set.hpp>
 #include <runtime/ko_base.h>
 
 #include <array>
@@ -67,6 +68,21 @@ inline bool Is( KoChar ch, uint32_t classes )
 {
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & classes ) != 0;
 }
+
+consteval ko::AsciiSet MakeSet( uint32_t classes )
+{
+    ko::AsciiSet set;
+    for ( size_t ch = 0; ch < charTable.size(); ++ch ) {
+        if ( charTable[ch] & classes ) {
+            set.Add( static_cast<KoChar>( ch ) );
+        }
+    }
+    return set;
+}
+
+/** The characters of some classes, to look for runs of them. */
+template <uint32_t classes>
+inline constexpr ko::AsciiSet setOf = MakeSet( classes );
 
 /** A capital ASCII letter as a small one; every other character as it is. */
 inline KoChar AsciiLower( KoChar ch )

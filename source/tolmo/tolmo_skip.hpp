@@ -25,11 +25,7 @@ namespace tolmo::skip {
 template <uint32_t classes>
 inline KoInt Run( const KoChar *chs, KoInt length )
 {
-    KoInt taken = 0;
-    while ( taken < length && Is( chs[taken], classes ) ) {
-        ++taken;
-    }
-    return taken;
+    return ko::RunOf( setOf<classes>, chs, length );
 }
 
 /** The run among the first `most` characters. */
@@ -60,7 +56,17 @@ inline constexpr auto TokenNodot = Run<charTokenNodot>;
 inline constexpr auto Atom = Run<charAtom>;
 inline constexpr auto Word = Run<charWord>;
 inline constexpr auto Digits = Run<charDigit>;
-inline constexpr auto Sws = Run<charLws>;
+
+// SWS. Most often there is none.
+inline KoInt Sws( const KoChar *chs, KoInt length )
+{
+    KoInt taken = 0;
+    while ( taken < length && chs[taken] <= ' ' && Is( chs[taken], charLws ) ) {
+        ++taken;
+    }
+    return taken;
+}
+
 inline constexpr auto Lws = Sws; // need it where one character is needed
 
 /* Characters and fixed texts. */
@@ -87,8 +93,9 @@ inline KoInt SwsChar( const KoChar *chs, KoInt length, KoChar ch )
 // SWS ch SWS
 inline KoInt SwsCharSws( const KoChar *chs, KoInt length, KoChar ch )
 {
-    Walk w( chs, length );
-    return w.Taken( w.Maybe( Sws ) && w.Need( Char, ch ) && w.Maybe( Sws ) );
+    const KoInt before = Sws( chs, length );
+    const KoInt taken = before + Char( chs + before, length - before, ch );
+    return taken > before ? taken + Sws( chs + taken, length - taken ) : 0;
 }
 
 inline KoInt Chars( const KoChar *chs, KoInt length, const KoChar *skipChs, KoInt skipLength )
@@ -217,15 +224,16 @@ inline KoInt QuotedPair( const KoChar *chs, KoInt length )
     return length >= 2 && chs[0] == '\\' && chs[1] != KO_CHAR_CARRIAGE_RETURN && chs[1] != KO_CHAR_LINE_FEED ? 2 : 0;
 }
 
+/** True for what ends a piece of quoted text. */
+constexpr bool EndsQuotedText( KoChar ch )
+{
+    return ch == '"' || ch == '\\' || ch == KO_CHAR_CARRIAGE_RETURN || ch == KO_CHAR_LINE_FEED;
+}
+
 // qdtext = 1*( any character but DQUOTE, "\", CR and LF )
 inline KoInt QuotedText( const KoChar *chs, KoInt length )
 {
-    KoInt taken = 0;
-    while ( taken < length && chs[taken] != '"' && chs[taken] != '\\' && chs[taken] != KO_CHAR_CARRIAGE_RETURN &&
-            chs[taken] != KO_CHAR_LINE_FEED ) {
-        ++taken;
-    }
-    return taken;
+    return ko::RunUntil<EndsQuotedText>( chs, length );
 }
 
 // quoted-string = LDQUOT *( qdtext / quoted-pair ) DQUOTE
@@ -285,14 +293,21 @@ inline constexpr auto Port = ulm___SkipPort;
 inline constexpr auto Iri = ulm___SkipIri;
 inline constexpr auto Uri = Iri;
 
-// domainlabel = ( alphanum / escape ) *( alphanum / escape / "-" ), without the hyphens at its end
-inline KoInt DomainLabel( const KoChar *chs, KoInt length )
+/** Domain labels: one, or with `dotted` as many as there are, with dots between them and perhaps one at the end. */
+template <bool dotted>
+inline KoInt Labels( const KoChar *chs, KoInt length )
 {
-    KoInt taken = 0;
-    for ( KoInt at = 0; at < length; ) {
-        if ( Is( chs[at], charAlphanum ) ) {
-            taken = ++at;
-        } else if ( chs[at] == '-' && at > 0 ) {
+    KoInt taken = 0; // not the hyphens at the end of a label
+    for ( KoInt at = 0, label = 0; at < length; ) {
+        if ( const KoInt plain = Run<charAlphanum>( chs + at, length - at ); plain > 0 ) {
+            taken = at += plain;
+            if ( at == length ) {
+                break;
+            }
+        }
+        if ( dotted && chs[at] == '.' && label < taken && taken == at ) {
+            taken = label = ++at;
+        } else if ( chs[at] == '-' && at > label ) {
             ++at;
         } else if ( const KoInt escape = Escape( chs + at, length - at ); escape > 0 ) {
             taken = at += escape;
@@ -303,14 +318,11 @@ inline KoInt DomainLabel( const KoChar *chs, KoInt length )
     return taken;
 }
 
+// domainlabel = ( alphanum / escape ) *( alphanum / escape / "-" ), without the hyphens at its end
+inline constexpr auto DomainLabel = Labels<false>;
+
 // hostname = domainlabel *( "." domainlabel ) [ "." ]
-inline KoInt Hostname( const KoChar *chs, KoInt length )
-{
-    Walk w( chs, length );
-    while ( w.Need( DomainLabel ) && w.Need( Char, '.' ) ) {
-    }
-    return w.Taken();
-}
+inline constexpr auto Hostname = Labels<true>;
 
 // IPv6reference = "[" IPv6address "]"
 inline KoInt IpV6Reference( const KoChar *chs, KoInt length )
