@@ -39,6 +39,7 @@ namespace {
 
 constexpr KoChar sip[] = { 'S', 'I', 'P' };
 constexpr KoChar twoZero[] = { '2', '.', '0' };
+constexpr KoChar sipTwoZero[] = { 'S', 'I', 'P', '/', '2', '.', '0' };
 
 KoString kosSip = nullptr;
 KoString kosTwoZero = nullptr;
@@ -140,6 +141,14 @@ KoString tolmo___VersionEncode( TolmoVersion version )
 // SIP-Version = protocol-name SLASH protocol-version
 KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
 {
+    // What nearly every text holds needs neither a close look nor a new object.
+    const Text rest = w.Rest();
+    constexpr KoInt length = std::size( sipTwoZero );
+    if ( skip::Chars( rest.chs, rest.length, sipTwoZero, length ) &&
+         ( rest.length == length || !Is( rest.chs[length], charToken ) ) ) {
+        w.Take( length );
+        return Share( sip20 );
+    }
     if ( !w.Need( skip::ProtocolName ) ) {
         return {};
     }
@@ -148,9 +157,6 @@ KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
         return {};
     }
     const Text number = w.Last();
-    if ( name.Is( sip ) && number.Is( twoZero ) ) {
-        return Share( sip20 ); // what nearly every text holds needs no new object
-    }
     return Adopt( tolmoVersionCreate( name.Copy().Get(), number.Copy().Get() ) );
 }
 
