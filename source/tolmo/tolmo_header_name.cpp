@@ -132,6 +132,28 @@ consteval Slots MakeSlots()
 constexpr Slots slots = MakeSlots();
 static_assert( knownNameCount < UINT8_MAX );
 
+/** Recognises a name that ends in the first `count` words. */
+template <size_t count>
+NameId RecognizeWords( const uint8_t *bytes, KoInt length )
+{
+    Words raw;
+    memcpy( &raw, bytes, count * sizeof raw.word[0] );
+    Words small{};
+    for ( size_t i = 0; i < count; ++i ) {
+        small.word[i] = ( raw.word[i] | smallLetters ) & masks[static_cast<size_t>( length )].word[i];
+    }
+    const size_t id = slots.id[SlotOf( small, slots.factor )];
+    if ( id == knownNameCount ) {
+        return unknownName;
+    }
+    uint64_t difference = 0;
+    for ( size_t i = 0; i < count; ++i ) {
+        difference |= small.word[i] ^ knownWords[id].small.word[i];
+        difference |= knownWords[id].hyphens.word[i] & ~raw.word[i];
+    }
+    return difference ? unknownName : static_cast<NameId>( id );
+}
+
 NameId FindCompact( uint32_t ch )
 {
     return ( ch | 0x20 ) >= 'a' && ( ch | 0x20 ) <= 'z' ? compactTable[ch & 0x1F] : unknownName;
@@ -147,22 +169,8 @@ NameId RecognizeName( const uint8_t *bytes, KoInt length )
     if ( length > longestKnownName ) {
         return unknownName;
     }
-    Words raw;
-    memcpy( &raw, bytes, sizeof raw );
-    Words small{};
-    for ( size_t i = 0; i < words; ++i ) {
-        small.word[i] = ( raw.word[i] | smallLetters ) & masks[static_cast<size_t>( length )].word[i];
-    }
-    const size_t id = slots.id[SlotOf( small, slots.factor )];
-    if ( id == knownNameCount ) {
-        return unknownName;
-    }
-    uint64_t difference = 0;
-    for ( size_t i = 0; i < words; ++i ) {
-        difference |= small.word[i] ^ knownWords[id].small.word[i];
-        difference |= knownWords[id].hyphens.word[i] & ~raw.word[i];
-    }
-    return difference ? unknownName : static_cast<NameId>( id );
+    // Most names end within the first word, and then so does the name that they are compared with.
+    return length < 8 ? RecognizeWords<1>( bytes, length ) : RecognizeWords<words>( bytes, length );
 }
 
 NameId RecognizeName( const KoChar *chs, KoInt length )
