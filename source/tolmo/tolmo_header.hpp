@@ -25,8 +25,7 @@ class Lines {
 public:
     explicit Lines( TolmoMessageHeader header ) : strings( header->lines ) {}
     Lines( HeaderTable *table, const HeaderEntry &entry )
-        : strings( entry.header ? entry.header->lines : nullptr ), decoded( table->decoded ), first( entry.firstLine ),
-          last( entry.lastLine )
+        : strings( entry.isObject ? entry.header->lines : nullptr ), decoded( table->decoded ), received( entry.lines )
     {
     }
 
@@ -45,16 +44,10 @@ public:
             }
             return i == length;
         }
-        for ( KoInt i = first;; i = decoded->Lines()[i].next ) {
-            const RawLine &line = decoded->Lines()[i];
+        return decoded->ForEach( received, [&]( const RawLine &line ) {
             const Wide wide( decoded->Text() + line.offset, line.length );
-            if ( !take( wide.Text() ) ) {
-                return false;
-            }
-            if ( i == last ) {
-                return true;
-            }
-        }
+            return take( wide.Text() );
+        } );
     }
 
     /** Gives the last line, which has to be there, to a function, and returns what that returns. */
@@ -64,7 +57,7 @@ public:
         if ( strings ) {
             return take( Text( LentStringAt( strings, koVectorLength( strings ) - 1 ) ) );
         }
-        const RawLine &line = decoded->Lines()[last];
+        const RawLine &line = decoded->Lines()[received.last];
         const Wide wide( decoded->Text() + line.offset, line.length );
         return take( wide.Text() );
     }
@@ -72,8 +65,7 @@ public:
 private:
     KoVector strings; // null: as received
     DecodedHead *decoded = nullptr;
-    KoInt first = 0;
-    KoInt last = 0;
+    RawLines received = {};
 };
 
 /** A raw header without lines. */

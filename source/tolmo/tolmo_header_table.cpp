@@ -7,13 +7,11 @@
 #include <runtime/ko_dict.h>
 
 #include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace tolmo {
 namespace {
-
-// Up to this many entries are looked through one by one.
-constexpr KoInt indexedFrom = 24;
 
 // What RecognizeName, the search for a colon, and copies in blocks may read behind a piece of the text.
 constexpr KoInt padding = 32;
@@ -25,14 +23,14 @@ void FreeTable( KoObj obj )
 {
     auto *const table = reinterpret_cast<HeaderTable *>( obj );
     for ( KoInt i = 0; i < table->count; ++i ) {
-        if ( table->Entries()[i].header ) {
-            ko___Release( tolmoMessageHeaderObj( table->Entries()[i].header ) );
+        if ( const TolmoMessageHeader header = table->Entries()[i].Object() ) {
+            ko___Release( tolmoMessageHeaderObj( header ) );
         }
     }
     if ( table->decoded ) {
         ko___Release( &table->decoded->head );
     }
-    table->index.Free();
+    koMemFree( table->index.slots );
 }
 
 constexpr ko___Sort headerTableSort = TOLMO_SORT( "TOLMO_HEADER_TABLE", FreeTable, nullptr, nullptr );
@@ -47,27 +45,19 @@ uint32_t HashName( const uint8_t *name, KoInt length )
     const Wide wide( name, length );
     return HashName( wide.Text().chs, wide.Text().length );
 }
-uint32_t HashName( NameId known )
-{
-    const std::string_view name = knownNames[known];
-    return HashName( reinterpret_cast<const uint8_t *>( name.data() ), static_cast<KoInt>( name.size() ) );
-}
 
 /** The name of an entry that is not known, if it is still raw. */
 const uint8_t *RawName( HeaderTable *table, const HeaderEntry &entry )
 {
-    return table->decoded->Text() + entry.nameOffset;
+    return table->decoded->Text() + entry.name;
 }
 
 uint32_t HashOf( HeaderTable *table, const HeaderEntry &entry )
 {
-    if ( entry.known != unknownName ) {
-        return HashName( static_cast<NameId>( entry.known ) );
-    }
-    if ( entry.header ) {
+    if ( entry.isObject ) {
         return HashName( ko::Chars( entry.header->name ), entry.header->name->length );
     }
-    return HashName( RawName( table, entry ), static_cast<KoInt>( entry.nameLength ) );
+    return HashName( RawName( table, entry ), entry.nameLength );
 }
 
 /** True when a name that is not known is that of an entry. `Char` is a byte or a character. */
@@ -75,62 +65,64 @@ template <class Char>
 bool HasName( HeaderTable *table, const HeaderEntry &entry, const Char *name, KoInt length )
 {
     const auto same = [=]( const auto *other ) { return std::equal( name, name + length, other ); };
-    if ( entry.known != unknownName ) {
+    if ( entry.IsKnown() ) {
         return false;
     }
-    if ( entry.header ) {
+    if ( entry.isObject ) {
         return entry.header->name->length == length && same( ko::Chars( entry.header->name ) );
     }
-    return static_cast<KoInt>( entry.nameLength ) == length && same( RawName( table, entry ) );
+    return entry.nameLength == length && same( RawName( table, entry ) );
 }
 
-/** The entry for which `same` holds; `hash` is asked for only where there is an index. */
-template <class Hash, class Same>
-HeaderEntry *Find( HeaderTable *table, Hash hash, Same same )
+/** The entry of a name that is not known. */
+template <class Char>
+HeaderEntry *FindByName( HeaderTable *table, const Char *name, KoInt length )
 {
     HeaderEntry *const entries = table->Entries();
-    if ( table->index ) {
-        const KoInt found = table->index.Find( hash(), [&]( KoInt i ) { return same( entries[i] ); } );
-        return found < 0 ? nullptr : entries + found;
+    if ( table->index.slots ) {
+        const uint32_t mask = table->index.mask;
+        for ( uint32_t at = HashName( name, length ) & mask; const uint32_t place = table->index.slots[at];
+              at = ( at + 1 ) & mask ) {
+            if ( HasName( table, entries[place - 1], name, length ) ) {
+                return entries + place - 1;
+            }
+        }
+        return nullptr;
     }
     for ( KoInt i = 0; i < table->count; ++i ) {
-        if ( same( entries[i] ) ) {
+        if ( HasName( table, entries[i], name, length ) ) {
             return entries + i;
         }
     }
     return nullptr;
 }
 
-template <class Char>
-HeaderEntry *FindByName( HeaderTable *table, const Char *name, KoInt length )
+void AddToIndex( HeaderTable *table, KoInt place )
 {
-    return Find(
-        table, [=] { return HashName( name, length ); },
-        [=]( const HeaderEntry &entry ) { return HasName( table, entry, name, length ); } );
-}
-
-/** The same table once more, with room for `capacity` entries. */
-HeaderTable *Copy( HeaderTable *table, KoInt capacity )
-{
-    HeaderTable *const copy = CreateHeaderTable( capacity, Share( table->decoded ) ).Leak();
-    copy->count = table->count;
-    copy->deleted = table->deleted;
-    copy->index = table->index ? table->index.Moved( capacity, 0 ) : ko::Index();
-    memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
-            static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
-    for ( KoInt i = 0; i < table->count; ++i ) {
-        Retained( table->Entries()[i].header );
+    const uint32_t mask = table->index.mask;
+    uint32_t at = HashOf( table, table->Entries()[place] ) & mask;
+    while ( table->index.slots[at] ) {
+        at = ( at + 1 ) & mask;
     }
-    return copy;
+    table->index.slots[at] = static_cast<uint32_t>( place ) + 1;
 }
 
-/** Makes the index of a table's entries. */
+/** Makes the index of a table's entries anew, with room for as many more. A small table has none. */
 void MakeIndex( HeaderTable *table )
 {
-    table->index.Free();
-    table->index = ko::Index::Create( table->capacity );
-    for ( KoInt i = 0; i < table->count; ++i ) {
-        table->index.Add( HashOf( table, table->Entries()[i] ), i );
+    koMemFree( table->index.slots );
+    table->index = {};
+    if ( table->count <= indexedFrom ) {
+        return;
+    }
+    const size_t size = std::bit_ceil( 2 * static_cast<size_t>( table->count ) );
+    table->index.mask = static_cast<uint32_t>( size - 1 );
+    table->index.slots = static_cast<uint32_t *>( koMemAllocN( static_cast<KoInt>( size ), sizeof( uint32_t ) ) );
+    memset( table->index.slots, 0, size * sizeof( uint32_t ) );
+    for ( KoInt place = 0; place < table->count; ++place ) {
+        if ( !table->Entries()[place].IsKnown() ) {
+            AddToIndex( table, place );
+        }
     }
 }
 
@@ -139,15 +131,31 @@ void DropDeleted( HeaderTable *table )
 {
     HeaderEntry *const entries = table->Entries();
     table->count = std::remove_if( entries, entries + table->count,
-                                   []( const HeaderEntry &e ) { return e.known == deletedName; } ) -
+                                   []( const HeaderEntry &e ) { return e.IsKnown( deletedName ); } ) -
                    entries;
     table->deleted = 0;
+    for ( KoInt i = 0; i < table->count; ++i ) {
+        if ( entries[i].IsKnown() ) {
+            table->known[entries[i].name] = static_cast<uint32_t>( i + 1 );
+        }
+    }
     MakeIndex( table );
 }
 
+/** The same table once more. */
 HeaderTable *CopyTable( HeaderTable *table )
 {
-    return Copy( table, table->count + 4 );
+    HeaderTable *const copy = CreateHeaderTable( table->count + 4, Share( table->decoded ) ).Leak();
+    copy->count = table->count;
+    copy->deleted = table->deleted;
+    memcpy( static_cast<void *>( copy->Entries() ), table->Entries(),
+            static_cast<size_t>( table->count ) * sizeof( HeaderEntry ) );
+    memcpy( copy->known, table->known, sizeof copy->known );
+    for ( KoInt i = 0; i < table->count; ++i ) {
+        Retained( table->Entries()[i].Object() );
+    }
+    MakeIndex( copy );
+    return copy;
 }
 
 } // namespace
@@ -172,46 +180,41 @@ KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> dec
     table->deleted = 0;
     table->capacity = capacity;
     table->index = {};
+    memset( table->known, 0, sizeof table->known );
     return Adopt( table );
 }
 
-HeaderEntry *AppendEntry( HeaderTable **table, const HeaderEntry &entry )
+HeaderTable *GrowTable( HeaderTable *table )
 {
-    HeaderTable *own = *table;
-    if ( own->count == own->capacity ) {
-        // The entries move and then, as the old table is gone, the index.
-        HeaderTable *const grown = CreateHeaderTable( own->capacity + own->capacity / 2 + 8, {} ).Leak();
-        std::swap( grown->decoded, own->decoded );
-        std::swap( grown->count, own->count );
-        grown->deleted = own->deleted;
-        memcpy( static_cast<void *>( grown->Entries() ), own->Entries(),
-                static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
-        ko::Index index = std::exchange( own->index, {} );
-        ko___Release( &own->head );
-        if ( index ) {
-            grown->index = index.Moved( grown->capacity, 0 );
-            index.Free();
-        }
-        *table = own = grown;
+    // While a head is decoded, all its lines may have names of their own; two tables at a time would be too much then.
+    const KoInt lines = table->decoded ? table->decoded->capacity : 0;
+    const KoInt capacity = koIntMax( table->capacity + table->capacity / 2 + 8, lines );
+    HeaderTable *const grown = CreateHeaderTable( capacity, {} ).Leak();
+    std::swap( grown->decoded, table->decoded );
+    std::swap( grown->count, table->count );
+    std::swap( grown->deleted, table->deleted );
+    std::swap( grown->index, table->index );
+    memcpy( grown->known, table->known, sizeof grown->known );
+    memcpy( static_cast<void *>( grown->Entries() ), table->Entries(),
+            static_cast<size_t>( grown->count ) * sizeof( HeaderEntry ) );
+    ko___Release( &table->head );
+    return grown;
+}
+
+void IndexLast( HeaderTable *table )
+{
+    // An index that is filled to three quarters gives way to a larger one.
+    if ( table->index.slots && table->count <= table->index.mask / 4 * 3 ) {
+        AddToIndex( table, table->count - 1 );
+    } else {
+        MakeIndex( table );
     }
-    HeaderEntry *const appended = own->Entries() + own->count++;
-    *appended = entry;
-    if ( own->index ) {
-        own->index.Add( HashOf( own, entry ), own->count - 1 );
-    } else if ( own->count > indexedFrom ) {
-        MakeIndex( own );
-    }
-    return appended;
 }
 
 HeaderEntry *FindEntry( HeaderTable *table, const HeaderKey &key )
 {
-    if ( key.known == unknownName ) {
-        return FindByName( table, key.name.chs, key.name.length );
-    }
-    return Find(
-        table, [&] { return HashName( key.known ); },
-        [&]( const HeaderEntry &entry ) { return entry.known == key.known; } );
+    return key.known != unknownName ? FindEntry( table, key.known )
+                                    : FindByName( table, key.name.chs, key.name.length );
 }
 
 HeaderEntry *FindUnknownEntry( HeaderTable *table, const uint8_t *name, KoInt length )
@@ -221,21 +224,17 @@ HeaderEntry *FindUnknownEntry( HeaderTable *table, const uint8_t *name, KoInt le
 
 KoRef<TolmoMessageHeader> HeaderOf( HeaderTable *table, const HeaderEntry &entry )
 {
-    if ( entry.header ) {
+    if ( entry.isObject ) {
         return Share( entry.header );
     }
     DecodedHead *const decoded = table->decoded;
     auto lines = Adopt( koVectorCreate() );
-    for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
-        const RawLine &line = decoded->Lines()[i];
+    decoded->ForEach( entry.lines, [&]( const RawLine &line ) {
         AppendString( *lines.Address(), WideString( decoded->Text() + line.offset, line.length ) );
-        if ( i == entry.lastLine ) {
-            break;
-        }
-    }
-    auto name = entry.known != unknownName
-                    ? Share( KnownNameString( entry.known ) )
-                    : WideString( RawName( table, entry ), static_cast<KoInt>( entry.nameLength ) );
+        return true;
+    } );
+    auto name = entry.IsKnown() ? Share( KnownNameString( static_cast<NameId>( entry.name ) ) )
+                                : WideString( RawName( table, entry ), entry.nameLength );
     return CreateMessageHeader( std::move( name ), std::move( lines ) );
 }
 
@@ -243,16 +242,18 @@ void SetHeader( HeaderTable **table, KoRef<TolmoMessageHeader> header )
 {
     MakeUnique( table, CopyTable );
     const HeaderKey key( header.Get()->name );
-    if ( HeaderEntry *const entry = FindEntry( *table, key ) ) {
-        Store( entry->header, std::move( header ) );
+    HeaderEntry *const entry = FindEntry( *table, key );
+    if ( !entry ) {
+        HeaderEntry added{ .header = header.Leak(), .name = key.known, .isObject = 1, .nameLength = 0 };
+        if ( key.known == unknownName ) {
+            added.nameLength = 1; // the true one is the object's
+        }
+        AppendEntry( table, added );
         return;
     }
-    AppendEntry( table, { .header = header.Leak(),
-                          .firstLine = 0,
-                          .lastLine = 0,
-                          .nameOffset = 0,
-                          .nameLength = 0,
-                          .known = key.known } );
+    const KoRef<TolmoMessageHeader> old = Adopt( entry->Object() );
+    entry->header = header.Leak();
+    entry->isObject = 1;
 }
 
 void DeleteHeader( HeaderTable **table, const HeaderKey &key )
@@ -263,18 +264,21 @@ void DeleteHeader( HeaderTable **table, const HeaderKey &key )
     MakeUnique( table, CopyTable );
     HeaderTable *const own = *table;
     HeaderEntry *const entry = FindEntry( own, key );
-    const KoInt place = entry - own->Entries();
-    if ( own->index ) {
-        own->index.Remove( HashOf( own, *entry ), place );
+    const KoRef<TolmoMessageHeader> old = Adopt( entry->Object() );
+    if ( key.known != unknownName ) {
+        own->known[key.known] = 0;
     }
-    Store( entry->header, {} );
-    if ( !own->index ) {
+    if ( !own->index.slots ) {
+        const KoInt place = entry - own->Entries();
         --own->count;
         memmove( static_cast<void *>( entry ), entry + 1,
                  static_cast<size_t>( own->count - place ) * sizeof( HeaderEntry ) );
+        for ( uint32_t &known : own->known ) {
+            known -= known > place;
+        }
         return;
     }
-    entry->known = deletedName;
+    *entry = { .header = nullptr, .name = deletedName, .isObject = 0, .nameLength = 0 };
     ++own->deleted;
     if ( own->deleted > own->count / 2 ) {
         DropDeleted( own );

@@ -26,8 +26,6 @@ TOLMO_CREATE_FROM( MessageFragment, AllFields )
 
 namespace {
 
-KoString kosContentLength = nullptr;
-
 /** What the name of a caller finds: every spelling and the compact form. */
 class Name {
 public:
@@ -58,15 +56,9 @@ void StoreResponse( TolmoMessageFragment frag, TolmoVersion version, KoInt sc, K
 
 } // namespace
 
-void tolmo___MessageFragmentStartup( void )
-{
-    tolmo::Start( kosContentLength, "Content-Length" );
-}
-
-void tolmo___MessageFragmentShutdown( void )
-{
-    tolmo::Stop( kosContentLength );
-}
+// The unit has no constants of its own.
+void tolmo___MessageFragmentStartup( void ) {}
+void tolmo___MessageFragmentShutdown( void ) {}
 
 KoRef<TolmoMessageFragment> tolmo::CreateFragment( KoRef<HeaderTable *> headers )
 {
@@ -340,7 +332,7 @@ KoVector tolmoMessageFragmentHeadersVector( TolmoMessageFragment frag )
     auto headers = tolmo::Adopt( koVectorCreate() );
     for ( KoInt i = 0; i < frag->headers->count; ++i ) {
         const tolmo::HeaderEntry &entry = frag->headers->Entries()[i];
-        if ( entry.known != tolmo::deletedName ) {
+        if ( !entry.IsKnown( tolmo::deletedName ) ) {
             const auto header = tolmo::HeaderOf( frag->headers, entry );
             koVectorAppendObj( headers.Address(), tolmoMessageHeaderObj( header.Get() ) );
         }
@@ -384,7 +376,7 @@ TolmoMessageHeader tolmoMessageFragmentHeaderWcstr( TolmoMessageFragment frag, c
 TolmoMessageHeader tolmoMessageFragmentHeaderContentLength( TolmoMessageFragment frag )
 {
     KO_REQUIRE( frag );
-    const tolmo::HeaderEntry *const entry = tolmo::FindEntry( frag->headers, tolmo::HeaderKey( kosContentLength ) );
+    const tolmo::HeaderEntry *const entry = tolmo::FindEntry( frag->headers, tolmo::contentLengthName );
     return entry ? tolmo::HeaderOf( frag->headers, *entry ).Leak() : nullptr;
 }
 

@@ -172,7 +172,7 @@ KO_API void tolmoMessageFragmentDelBody( TolmoMessageFragment *frag );
 /**
  * Decodes a whole message or a block of headers (RFC 3261 section 7). The head ends at the first empty line, or with the
  * bytes. `Content-Length` is obeyed where there is one: bytes behind the body are dropped, a short body fails, and a
- * length of 0 means no body.
+ * length of 0 means no body. A head of 2 GiB or more fails.
  *
  * @param buf shared, the caller keeps its reference; the fragment has copies of its own.
  * @return new reference, or null.

@@ -20,32 +20,54 @@ namespace {
 constexpr uint8_t cr = 0x0D;
 constexpr uint8_t lf = 0x0A;
 
-/** Calls `take( i )` for each place i where CR LF stands, from `from` on, as long as it returns true. */
+/**
+ * Calls `take( i )` for each place i where CR LF stands, from `from` on, as long as it returns true. Returns true when all
+ * bytes that were looked at are ASCII; that may be some more than up to the last place.
+ */
 template <class Take>
-void ForEachLineEnd( const uint8_t *bytes, KoInt from, KoInt length, Take take )
+bool ForEachLineEnd( const uint8_t *bytes, KoInt from, KoInt length, Take take )
 {
+    bool ascii = true;
 #if defined( __SSE2__ )
     const __m128i crs = _mm_set1_epi8( cr );
-    for ( ; length - from > 64; from += 64 ) {
+    // So many blocks of 16 bytes, and behind them at least one byte more. False when that was enough.
+    const auto look = [&]<int blocks>() {
         uint64_t found = 0;
-        for ( int part = 0; part < 4; ++part ) {
+        __m128i all = _mm_setzero_si128();
+        for ( int part = 0; part < blocks; ++part ) {
             const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) + part );
             const auto mask = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, crs ) ) );
             found |= uint64_t{ mask } << ( 16 * part );
+            all = _mm_or_si128( all, block );
         }
+        ascii = ascii && _mm_movemask_epi8( all ) == 0;
         for ( ; found; found &= found - 1 ) {
             const KoInt place = from + std::countr_zero( found );
             if ( bytes[place + 1] == lf && !take( place ) ) {
-                return;
+                return false;
             }
+        }
+        from += 16 * blocks;
+        return true;
+    };
+    while ( length - from > 64 ) {
+        if ( !look.template operator()<4>() ) {
+            return ascii;
+        }
+    }
+    while ( length - from > 16 ) {
+        if ( !look.template operator()<1>() ) {
+            return ascii;
         }
     }
 #endif
-    for ( ; length - from >= 2; ++from ) {
-        if ( bytes[from] == cr && bytes[from + 1] == lf && !take( from ) ) {
-            return;
+    for ( ; from < length; ++from ) {
+        ascii = ascii && bytes[from] < 0x80;
+        if ( length - from >= 2 && bytes[from] == cr && bytes[from + 1] == lf && !take( from ) ) {
+            break;
         }
     }
+    return ascii;
 }
 
 /** Where a byte stands from `from` on, or `length`. Up to 15 bytes behind the text must be readable. */
@@ -85,7 +107,7 @@ public:
     /** Looks through bytes up to their end or, with `wholeMessage`, up to the first empty line. */
     LineEnds( const uint8_t *bytes, KoInt length, bool wholeMessage )
     {
-        ForEachLineEnd( bytes, 0, length, [&]( KoInt place ) {
+        ascii = ForEachLineEnd( bytes, 0, length, [&]( KoInt place ) {
             if ( wholeMessage && count > 0 && place == last + 2 ) {
                 emptyLine = place;
                 return false;
@@ -102,6 +124,9 @@ public:
 
     /** Where the empty line begins, -1 when there is none. */
     [[nodiscard]] KoInt EmptyLine() const { return emptyLine; }
+
+    /** True when the head is known to be ASCII. */
+    [[nodiscard]] bool IsAscii() const { return ascii; }
 
     /** How many lines there are at most that are not empty: those with a CR LF, and what stands behind the last. */
     [[nodiscard]] KoInt FilledLines() const { return filled + 1; }
@@ -122,6 +147,7 @@ private:
     KoInt filled = 0; // of those that do not end an empty line
     KoInt last = -2;
     KoInt emptyLine = -1;
+    bool ascii = false;
     KoInt ends[kept]; // NOLINT: only the first `count` are set, and read
 };
 
@@ -149,6 +175,11 @@ bool IsToken( const uint8_t *bytes, KoInt length )
     return std::all_of( bytes, bytes + length, []( uint8_t byte ) { return Is( byte, charToken ); } );
 }
 
+constexpr bool IsBlank( KoChar ch )
+{
+    return ch == ' ';
+}
+
 enum class StartLine { none, good, bad };
 
 /** Line 0: a status line, a request line, or no start line at all, so that it is a header line. */
@@ -158,11 +189,13 @@ StartLine DecodeStartLine( TolmoMessageFragment frag, Text line )
     Text parts[3];
     size_t count = 0;
     KoInt begin = 0;
-    for ( KoInt i = 0; i < line.length && count < 2; ++i ) {
-        if ( line.chs[i] == ' ' ) {
-            parts[count++] = { line.chs + begin, i - begin };
-            begin = i + 1;
+    while ( count < 2 ) {
+        const KoInt length = ko::RunUntil<IsBlank>( line.chs + begin, line.length - begin );
+        if ( begin + length == line.length ) {
+            break;
         }
+        parts[count++] = { line.chs + begin, length };
+        begin += length + 1;
     }
     parts[count++] = { line.chs + begin, line.length - begin };
     if ( count < 2 ) {
@@ -210,47 +243,40 @@ public:
      * Takes the lines from `at` on. A line that begins with whitespace goes on with the one before it: the two are
      * joined by one blank, in place, since that is never longer than what was there. An empty line ends a header too.
      */
-    bool Take( KoInt at, KoInt length, const LineEnds &ends, KoInt firstLine )
+    bool Take( KoInt at, KoInt length, const LineEnds &ends, KoInt line )
     {
-        KoInt pending = -1; // where the header that is being collected begins, and where it ends
-        KoInt pendingEnd = 0;
-        KoInt line = firstLine;
-        for ( KoInt next = 0; at < length; at = next ) {
-            const KoInt lineEnd = ends.EndOf( line++, text, at, length );
-            next = lineEnd + 2;
-            if ( pending >= 0 && !( at < lineEnd && IsLws( text[at] ) ) ) {
-                if ( !TakeHeader( pending, pendingEnd ) ) {
-                    return false;
-                }
-                pending = -1;
-            }
-            KoInt end = lineEnd;
-            while ( at < end && IsLws( text[at] ) ) {
-                ++at;
-            }
-            while ( at < end && IsLws( text[end - 1] ) ) {
-                --end;
-            }
+        while ( at < length ) {
+            KoInt end = ends.EndOf( line++, text, at, length );
+            KoInt next = end + 2;
+            Trim( at, end );
             if ( at == end ) {
+                at = next;
                 continue;
             }
-            if ( pending < 0 ) {
-                pending = at;
-                pendingEnd = end;
-            } else {
-                text[pendingEnd] = ' ';
-                memmove( text + pendingEnd + 1, text + at, static_cast<size_t>( end - at ) );
-                pendingEnd += 1 + end - at;
+            while ( next < length && IsLws( text[next] ) ) {
+                KoInt begin = next;
+                KoInt more = ends.EndOf( line++, text, begin, length );
+                next = more + 2;
+                Trim( begin, more );
+                if ( begin < more ) {
+                    text[end] = ' ';
+                    memmove( text + end + 1, text + begin, static_cast<size_t>( more - begin ) );
+                    end += 1 + more - begin;
+                }
             }
+            if ( !TakeHeader( at, end ) ) {
+                return false;
+            }
+            at = next;
         }
-        return pending < 0 || TakeHeader( pending, pendingEnd );
+        return true;
     }
 
     /** The last line of `Content-Length`, or null when there is none. */
     [[nodiscard]] const RawLine *ContentLength() const
     {
-        const uint32_t entry = entryOf[contentLengthName];
-        return entry ? lines + frag->headers->Entries()[entry - 1].lastLine : nullptr;
+        const HeaderEntry *const entry = FindEntry( frag->headers, contentLengthName );
+        return entry ? lines + entry->lines.last : nullptr;
     }
 
 private:
@@ -269,52 +295,56 @@ private:
         while ( at < end && IsLws( text[at] ) ) {
             ++at;
         }
-        const KoInt line = count++;
-        lines[line] = { .offset = at, .length = end - at, .next = 0 };
+        const uint32_t line = count++;
+        lines[line] = { .offset = static_cast<uint32_t>( at ), .length = static_cast<uint32_t>( end - at ), .next = 0 };
         HeaderEntry *const entry = FindOrAppend( begin, nameLength, line );
         if ( !entry ) {
             return false;
         }
-        lines[entry->lastLine].next = line; // of a new entry, its own line's, which is not looked at
-        entry->lastLine = line;
+        lines[entry->lines.last].next = line; // of a new entry, its own line's, which is not looked at
+        entry->lines.last = line;
         return true;
     }
 
     /** The entry of a name; null when it is none. */
-    HeaderEntry *FindOrAppend( KoInt name, KoInt nameLength, KoInt line )
+    HeaderEntry *FindOrAppend( KoInt name, KoInt nameLength, uint32_t line )
     {
         const NameId known = RecognizeName( text + name, nameLength );
         if ( known != unknownName ) {
-            uint32_t &entry = entryOf[known];
-            if ( entry == 0 ) {
-                Append( known, 0, 0, line );
-                entry = static_cast<uint32_t>( frag->headers->count );
-            }
-            return frag->headers->Entries() + entry - 1;
+            HeaderEntry *const entry = FindEntry( frag->headers, known );
+            return entry ? entry : Append( known, 0, line );
         }
         if ( nameLength == 0 || !IsToken( text + name, nameLength ) ) {
             return nullptr;
         }
         CapitalizeName( text + name, nameLength );
         HeaderEntry *const entry = FindUnknownEntry( frag->headers, text + name, nameLength );
-        return entry ? entry : Append( unknownName, name, nameLength, line );
+        return entry ? entry : Append( name, nameLength, line );
     }
 
-    HeaderEntry *Append( NameId known, KoInt name, KoInt nameLength, KoInt line )
+    HeaderEntry *Append( KoInt name, KoInt nameLength, uint32_t line )
     {
-        return AppendEntry( &frag->headers, { .header = nullptr,
-                                              .firstLine = line,
-                                              .lastLine = line,
-                                              .nameOffset = name,
-                                              .nameLength = static_cast<uint64_t>( nameLength ) & 0xFFFFFFFFFFFF,
-                                              .known = known } );
+        return AppendEntry( &frag->headers, { .lines = { line, line },
+                                              .name = static_cast<uint32_t>( name ),
+                                              .isObject = 0,
+                                              .nameLength = static_cast<uint32_t>( nameLength ) & INT32_MAX } );
+    }
+
+    /** Takes the whitespace at both ends off a piece of the text. */
+    void Trim( KoInt &begin, KoInt &end ) const
+    {
+        while ( begin < end && IsLws( text[begin] ) ) {
+            ++begin;
+        }
+        while ( begin < end && IsLws( text[end - 1] ) ) {
+            --end;
+        }
     }
 
     TolmoMessageFragment frag;
     RawLine *lines;
     uint8_t *text;
-    KoInt count = 0;
-    uint32_t entryOf[knownNameCount] = {}; // for a known name, the position of its entry and 1
+    uint32_t count = 0;
 };
 
 /** The value of a `Content-Length` line, or -1. */
@@ -333,7 +363,7 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     if ( contentLength ) {
         *contentLength = -1;
     }
-    if ( !IsUtf8( bytes, length ) ) {
+    if ( length > longestHead || !( ends.IsAscii() || IsUtf8( bytes, length ) ) ) {
         return {};
     }
     auto decoded = CreateDecodedHead( ends.FilledLines(), length );
@@ -341,7 +371,7 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     if ( length > 0 ) {
         memcpy( head->Text(), bytes, static_cast<size_t>( length ) );
     }
-    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.FilledLines() + 2, 20 ), std::move( decoded ) ) );
+    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.FilledLines() + 2, 40 ), std::move( decoded ) ) );
     const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
     switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {

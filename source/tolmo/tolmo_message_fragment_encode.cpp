@@ -84,12 +84,12 @@ public:
         HeaderTable *const table = frag->headers;
         for ( KoInt i = 0; i < table->count; ++i ) {
             const HeaderEntry &entry = table->Entries()[i];
-            if ( entry.known == contentLengthName ) {
+            if ( entry.IsKnown( contentLengthName ) ) {
                 WriteContentLength( output );
                 lengthWritten = true;
-            } else if ( entry.header ) {
+            } else if ( entry.isObject ) {
                 WriteHeader( output, entry.header );
-            } else if ( entry.known != deletedName ) {
+            } else if ( !entry.IsKnown( deletedName ) ) {
                 WriteRawHeader( output, table->decoded, entry );
             }
         }
@@ -151,21 +151,18 @@ private:
     template <class Output>
     static void WriteRawHeader( Output &output, DecodedHead *decoded, const HeaderEntry &entry )
     {
-        for ( KoInt i = entry.firstLine;; i = decoded->Lines()[i].next ) {
-            const RawLine &line = decoded->Lines()[i];
-            if ( entry.known != unknownName ) {
-                const WireName &name = wireNames[entry.known];
+        decoded->ForEach( entry.lines, [&]( const RawLine &line ) {
+            if ( entry.IsKnown() ) {
+                const WireName &name = wireNames[entry.name];
                 output.WritePadded( name.text, name.length );
             } else {
-                output.WritePadded( decoded->Text() + entry.nameOffset, static_cast<KoInt>( entry.nameLength ) );
+                output.WritePadded( decoded->Text() + entry.name, entry.nameLength );
                 output.Write( ": ", 2 );
             }
             output.WritePadded( decoded->Text() + line.offset, line.length );
             output.Write( "\r\n", 2 );
-            if ( i == entry.lastLine ) {
-                break;
-            }
-        }
+            return true;
+        } );
     }
 
     TolmoMessageFragment frag;
