@@ -59,9 +59,9 @@ KoInt Wrap( KoVector v, KoInt slot )
 /** A new vector with room for `need` elements and with those of another one, for which it takes no references. */
 KoVector CreateWithElements( KoVector from, KoInt need )
 {
-    size_t usable = 0;
     const size_t size = sizeof( ko___Vector ) + static_cast<size_t>( need ) * sizeof( KoObj );
-    const auto v = reinterpret_cast<KoVector>( ko::CreateObject( size, &vectorSort, usable ) );
+    const auto [obj, usable] = ko::CreateObject( size, &vectorSort );
+    const auto v = reinterpret_cast<KoVector>( obj );
     v->capacity = static_cast<KoInt>( ( usable - sizeof( ko___Vector ) ) / sizeof( KoObj ) );
     v->length = from->length;
     v->first = 0;
