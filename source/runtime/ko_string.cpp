@@ -66,9 +66,8 @@ KoString Copy( const KoChar *chs, KoInt length )
     if ( length == 0 ) {
         return Empty();
     }
-    const KoString s = CreateWithCapacity( length, length );
-    ko::CopyChars( ko::Chars( s ), chs, length );
-    return s;
+    KoChar *const to = ko::Chars( CreateWithCapacity( length, length ) );
+    return static_cast<KoString>( memcpy( to, chs, static_cast<size_t>( length ) * sizeof( KoChar ) ) ) - 1;
 }
 
 /** A new string with a range; the string itself where the range is all of it. */
