@@ -86,7 +86,10 @@ KoString CreateDecoded( const Unit *units, KoInt length )
     // As many characters as units, unless the text is far from ASCII.
     KoString s = ko::CreateUninitialised( length );
     KoChar *const chs = ko::Chars( s );
-    ko::Trim( &s, ko::Decode( chs, units, length ) - chs );
+    const KoInt decoded = ko::Decode( chs, units, length ) - chs;
+    if ( decoded < length ) {
+        ko::Trim( &s, decoded );
+    }
     return s;
 }
 
