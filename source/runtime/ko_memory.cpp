@@ -151,14 +151,11 @@ Block Allocate( size_t size )
     }
     const int32_t blockClass = ClassOf( size );
     FreeList &list = thread->lists[blockClass];
-    FreeBlock *const block = list.first;
-    if ( !block ) {
-        ++thread->blocks;
-        return { AllocateMemory( list.size ), list.size, blockClass };
+    if ( void *const kept = list.Take() ) {
+        return { kept, list.size, blockClass };
     }
-    list.first = block->next;
-    ++list.room;
-    return { block, list.size, blockClass };
+    ++thread->blocks;
+    return { AllocateMemory( list.size ), list.size, blockClass };
 }
 
 void FreeUnkept( void *memory )

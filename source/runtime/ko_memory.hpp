@@ -31,6 +31,17 @@ struct FreeList {
     FreeBlock *first;
     int32_t room;  // how many more may be kept
     uint32_t size; // of its blocks
+
+    /** One of the blocks, or null. */
+    void *Take()
+    {
+        FreeBlock *const block = first;
+        if ( block ) {
+            first = block->next;
+            ++room;
+        }
+        return block;
+    }
 };
 
 /** What a thread has of its own. Threads are linked, so that the counts can be added up. */
@@ -52,14 +63,7 @@ inline Block TakeKept( size_t size )
         return {};
     }
     const size_t blockClass = ( size + blockStep - 1 ) / blockStep;
-    FreeList &list = here->lists[blockClass];
-    FreeBlock *const block = list.first;
-    if ( !block ) {
-        return {};
-    }
-    list.first = block->next;
-    ++list.room;
-    return { block, blockClass * blockStep, static_cast<int32_t>( blockClass ) };
+    return { here->lists[blockClass].Take(), blockClass * blockStep, static_cast<int32_t>( blockClass ) };
 }
 
 /** A block for an object of at least `size` bytes, not cleared. Never null: the process ends when memory is exhausted. */
