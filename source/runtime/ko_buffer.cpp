@@ -48,9 +48,9 @@ KoInt BytesLength( const void *bytes, KoInt length )
 /** A new buffer with a copy of bytes and room for `capacity` bytes or some more. */
 KoBuffer CreateWithBytes( const uint8_t *bytes, KoInt length, KoInt capacity )
 {
-    size_t usable = 0;
     const size_t size = sizeof( ko___Buffer ) + static_cast<size_t>( capacity );
-    const auto b = reinterpret_cast<KoBuffer>( ko::CreateObject( size, &bufferSort, usable ) );
+    const auto [obj, usable] = ko::CreateObject( size, &bufferSort );
+    const auto b = reinterpret_cast<KoBuffer>( obj );
     b->length = length;
     b->offset = 0;
     b->capacity = static_cast<KoInt>( usable - sizeof( ko___Buffer ) );

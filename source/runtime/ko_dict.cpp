@@ -141,9 +141,9 @@ void MoveEntries( DictEntry *to, const DictEntry *from, KoInt count )
 /** A new dictionary with room for `need` entries and with those of another one, for which it takes no references. */
 KoDict CreateWithEntries( KoDict from, KoInt need )
 {
-    size_t usable = 0;
     const size_t size = sizeof( ko___Dict ) + static_cast<size_t>( need ) * sizeof( DictEntry );
-    const auto d = reinterpret_cast<KoDict>( ko::CreateObject( size, &dictSort, usable ) );
+    const auto [obj, usable] = ko::CreateObject( size, &dictSort );
+    const auto d = reinterpret_cast<KoDict>( obj );
     d->capacity = static_cast<KoInt>( ( usable - sizeof( ko___Dict ) ) / sizeof( DictEntry ) );
     d->length = from->length;
     d->first = 0;

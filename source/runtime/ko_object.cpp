@@ -6,6 +6,20 @@
 
 #include <cstring>
 
+namespace ko {
+
+NewObject CreateObjectInNewBlock( size_t size, KoSort sort )
+{
+    const Block block = Allocate( size );
+    const auto obj = static_cast<KoObj>( block.memory );
+    obj->sort = sort;
+    obj->count = 1;
+    obj->blockClass = block.blockClass;
+    return { obj, block.usable };
+}
+
+} // namespace ko
+
 KoObj ko___ObjCreate( KoInt size, KoSort sort )
 {
     const KoObj obj = ko___ObjCreateUncleared( size, sort );
@@ -17,8 +31,7 @@ KoObj ko___ObjCreateUncleared( KoInt size, KoSort sort )
 {
     KO_REQUIRE( size >= (KoInt)sizeof( struct ko___Obj ) );
     KO_REQUIRE( sort );
-    size_t usable = 0;
-    return ko::CreateObject( static_cast<size_t>( size ), sort, usable );
+    return ko::CreateObject( static_cast<size_t>( size ), sort ).obj;
 }
 
 void ko___ObjFree( KoObj obj )

@@ -48,14 +48,14 @@ constexpr KoInt maximalLength = ( PTRDIFF_MAX - static_cast<KoInt>( sizeof( ko__
 // What the first append to a small string makes room for: a block of 128 bytes.
 constexpr KoInt leastGrownCapacity = ( 128 - static_cast<KoInt>( sizeof( ko___String ) ) ) / charSize;
 
-/** A new string of the length 0 with room for at least `capacity` characters. */
-KoString CreateWithCapacity( KoInt capacity )
+/** A new string whose characters are not set, with room for at least `capacity` of them. */
+inline KoString CreateWithCapacity( KoInt capacity, KoInt length )
 {
     KO_REQUIRE_MESSAGE( capacity <= maximalLength, "out of memory", "block" );
-    size_t usable = 0;
     const size_t size = sizeof( ko___String ) + static_cast<size_t>( capacity * charSize );
-    const auto s = reinterpret_cast<KoString>( ko::CreateObject( size, &sort, usable ) );
-    s->length = 0;
+    const auto [obj, usable] = ko::CreateObject( size, &sort );
+    const auto s = reinterpret_cast<KoString>( obj );
+    s->length = length;
     s->capacity = static_cast<KoInt>( ( usable - sizeof( ko___String ) ) / charSize );
     return s;
 }
@@ -66,9 +66,8 @@ KoString Copy( const KoChar *chs, KoInt length )
     if ( length == 0 ) {
         return Empty();
     }
-    const KoString s = ko::CreateUninitialised( length );
-    ko::CopyChars( ko::Chars( s ), chs, length );
-    return s;
+    KoChar *const to = ko::Chars( CreateWithCapacity( length, length ) );
+    return static_cast<KoString>( memcpy( to, chs, static_cast<size_t>( length ) * sizeof( KoChar ) ) ) - 1;
 }
 
 /** A new string with a range; the string itself where the range is all of it. */
@@ -87,7 +86,10 @@ KoString CreateDecoded( const Unit *units, KoInt length )
     // As many characters as units, unless the text is far from ASCII.
     KoString s = ko::CreateUninitialised( length );
     KoChar *const chs = ko::Chars( s );
-    ko::Trim( &s, ko::Decode( chs, units, length ) - chs );
+    const KoInt decoded = ko::Decode( chs, units, length ) - chs;
+    if ( decoded < length ) {
+        ko::Trim( &s, decoded );
+    }
     return s;
 }
 
@@ -198,9 +200,7 @@ namespace ko {
 
 KoString CreateUninitialised( KoInt length )
 {
-    const KoString s = CreateWithCapacity( length );
-    s->length = length;
-    return s;
+    return CreateWithCapacity( length, length );
 }
 
 void Trim( KoString *s, KoInt length )
@@ -231,8 +231,7 @@ KoChar *Reserve( KoString *s, KoInt more, KoRef<KoString> *before )
     if ( more > 0 && !( IsUnique( old ) && old->capacity - length >= more ) ) {
         KO_REQUIRE_MESSAGE( more <= maximalLength - length, "out of memory", "block" );
         const KoInt grown = koIntMax( length + length / 2, leastGrownCapacity );
-        *s = CreateWithCapacity( koIntMax( length + more, grown ) );
-        ( *s )->length = length;
+        *s = CreateWithCapacity( koIntMax( length + more, grown ), length );
         CopyChars( Chars( *s ), Chars( old ), length );
         *before = KoRef<KoString>::Adopt( old );
     }

@@ -4,6 +4,8 @@
 #include <runtime/ko_create.hpp>
 #include <runtime/ko_inner.hpp>
 
+#include <algorithm>
+
 namespace {
 
 constexpr KoInt firstCapacity = 2;
@@ -56,42 +58,60 @@ KoInt Wrap( KoVector v, KoInt slot )
     return slot < 0 ? slot + v->capacity : slot >= v->capacity ? slot - v->capacity : slot;
 }
 
+[[gnu::noinline]] void CopyElements( KoVector to, KoVector from )
+{
+    for ( KoInt i = 0; i < from->length; ++i ) {
+        ko::Slots( to )[i] = ko::At( from, i );
+    }
+}
+
 /** A new vector with room for `need` elements and with those of another one, for which it takes no references. */
 KoVector CreateWithElements( KoVector from, KoInt need )
 {
-    size_t usable = 0;
     const size_t size = sizeof( ko___Vector ) + static_cast<size_t>( need ) * sizeof( KoObj );
-    const auto v = reinterpret_cast<KoVector>( ko::CreateObject( size, &vectorSort, usable ) );
+    const auto [obj, usable] = ko::CreateObject( size, &vectorSort );
+    const auto v = reinterpret_cast<KoVector>( obj );
     v->capacity = static_cast<KoInt>( ( usable - sizeof( ko___Vector ) ) / sizeof( KoObj ) );
     v->length = from->length;
     v->first = 0;
     v->gap = from->length;
-    for ( KoInt i = 0; i < from->length; ++i ) {
-        ko::Slots( v )[i] = ko::At( from, i );
+    if ( from->length > 0 ) {
+        CopyElements( v, from );
     }
     return v;
 }
 
-/** Makes the caller's vector its own, with room for `extra` more elements. */
-KoVector Own( KoVector *v, KoInt extra )
+/** Replaces the caller's vector by one of its own, with room for `need` elements. */
+[[gnu::noinline]] KoVector Replace( KoVector *v, KoInt need )
 {
     const KoVector old = *v;
-    const bool unique = ko___IsUnique( &old->head );
-    const KoInt need = old->length + extra;
-    if ( unique && need <= old->capacity ) {
-        return old;
-    }
-    if ( unique ) {
-        *v = CreateWithElements( old, koIntMax( need, 2 * old->length ) );
+    *v = CreateWithElements( old, need );
+    if ( ko___IsUnique( &old->head ) ) {
         ko::DiscardObject( &old->head );
         return *v;
     }
-    *v = CreateWithElements( old, extra > 0 ? koIntMax( need, firstCapacity ) : need );
     for ( KoInt i = 0; i < old->length; ++i ) {
         ko___Retain( ko::Slots( *v )[i] );
     }
     ko___Release( &old->head );
     return *v;
+}
+
+/** Makes the caller's vector its own, with room for one more element. */
+KoVector OwnWithRoom( KoVector *v )
+{
+    const KoVector old = *v;
+    const bool unique = ko___IsUnique( &old->head );
+    if ( unique && old->length < old->capacity ) {
+        return old;
+    }
+    return Replace( v, std::max( unique ? 2 * old->length : old->length + 1, firstCapacity ) );
+}
+
+/** Makes the caller's vector its own. */
+KoVector Own( KoVector *v )
+{
+    return ko___IsUnique( &( *v )->head ) ? *v : Replace( v, ( *v )->length );
 }
 
 /** Moves the gap of an own vector in front of the element `to`, the shorter way round. */
@@ -120,8 +140,10 @@ void MoveGap( KoVector v, KoInt to )
 /** Inserts an object in front of an index that is inside the vector or its length. */
 void InsertTaken( KoVector *v, KoInt index, KoObj obj )
 {
-    const KoVector own = Own( v, 1 );
-    MoveGap( own, index );
+    const KoVector own = OwnWithRoom( v );
+    if ( own->gap != index ) {
+        MoveGap( own, index );
+    }
     ko::Slots( own )[Wrap( own, own->first + index )] = obj;
     own->gap = index + 1;
     ++own->length;
@@ -143,7 +165,7 @@ void Remove( KoVector *v, KoInt index, KoInt count )
         koVectorClear( v );
         return;
     }
-    const KoVector own = Own( v, 0 );
+    const KoVector own = Own( v );
     MoveGap( own, index );
     const KoInt start = own->first + index + own->capacity - own->length;
     own->length -= count;
@@ -235,7 +257,7 @@ void koVectorSetStringAt( KoVector *v, KoInt index, KoString s )
     KO_REQUIRE( index >= 0 && index < koVectorLength( *v ) );
     KO_REQUIRE( s );
     ko___Retain( &s->head );
-    const KoVector own = Own( v, 0 );
+    const KoVector own = Own( v );
     const KoInt slot = own->first + index + ( index >= own->gap ? own->capacity - own->length : 0 );
     KoObj &element = ko::Slots( own )[Wrap( own, slot )];
     const KoObj old = element;

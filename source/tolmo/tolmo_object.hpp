@@ -6,6 +6,7 @@
 #include <tolmo/tolmo_module.h>
 
 #include <cstddef>
+#include <cstring>
 #include <type_traits>
 #include <utility>
 
@@ -116,7 +117,9 @@ Field CopyField( Field field )
 template <class Object>
 KoRef<Object *> CreateObject( KoSort sort )
 {
-    return Adopt( reinterpret_cast<Object *>( ko___ObjCreate( sizeof( Object ), sort ) ) );
+    const KoObj obj = ko___ObjCreateUncleared( sizeof( Object ), sort );
+    memset( static_cast<void *>( obj + 1 ), 0, sizeof( Object ) - sizeof *obj ); // of a size that is known: some stores
+    return Adopt( reinterpret_cast<Object *>( obj ) );
 }
 
 /** A new object that shares the object fields of another one and has its numbers. */
