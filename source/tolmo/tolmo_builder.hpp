@@ -14,7 +14,12 @@ public:
     Builder() = default;
     Builder( const Builder & ) = delete;
     Builder &operator=( const Builder & ) = delete;
-    ~Builder() { koMemFree( block ); }
+    ~Builder()
+    {
+        if ( block ) {
+            koMemFree( block );
+        }
+    }
 
     void Add( KoChar ch ) { *Room( 1 ) = ch; }
     /** ASCII text. */

@@ -30,7 +30,9 @@ void FreeTable( KoObj obj )
     if ( table->decoded ) {
         ko___Release( &table->decoded->head );
     }
-    koMemFree( table->index.slots );
+    if ( table->index.slots ) {
+        koMemFree( table->index.slots );
+    }
 }
 
 constexpr ko___Sort headerTableSort = TOLMO_SORT( "TOLMO_HEADER_TABLE", FreeTable, nullptr, nullptr );

@@ -79,7 +79,7 @@ KoInt FindByte( const uint8_t *bytes, KoInt from, KoInt length, uint8_t byte )
         const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( bytes + from ) );
         const auto found = static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( block, wanted ) ) );
         if ( found ) {
-            return koIntMin( from + std::countr_zero( found ), length );
+            return std::min( from + std::countr_zero( found ), length );
         }
     }
     return length;

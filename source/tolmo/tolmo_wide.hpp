@@ -32,7 +32,12 @@ public:
     }
     Wide( const Wide & ) = delete;
     Wide &operator=( const Wide & ) = delete;
-    ~Wide() { koMemFree( block ); }
+    ~Wide()
+    {
+        if ( block ) {
+            koMemFree( block );
+        }
+    }
 
     [[nodiscard]] tolmo::Text Text() const { return text; }
 
