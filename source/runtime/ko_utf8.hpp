@@ -181,46 +181,38 @@ constexpr KoInt Utf8Length( KoChar ch )
     return 1 + ( value >= 0x80 ) + ( value >= 0x800 ) + ( value >= 0x10000 && value <= 0x10FFFF );
 }
 
-/** True when 16 characters are ASCII. */
-inline bool AreAscii16( const KoChar *chs )
+/** True when all characters are ASCII. */
+inline bool AreAscii( const KoChar *chs, KoInt length )
 {
 #if defined( __SSE2__ )
-    const auto *const in = reinterpret_cast<const __m128i *>( chs );
-    const __m128i all = _mm_or_si128( _mm_or_si128( _mm_loadu_si128( in ), _mm_loadu_si128( in + 1 ) ),
-                                      _mm_or_si128( _mm_loadu_si128( in + 2 ), _mm_loadu_si128( in + 3 ) ) );
-    const __m128i beyond = _mm_and_si128( all, _mm_set1_epi32( ~0x7F ) );
-    return _mm_movemask_epi8( _mm_cmpeq_epi32( beyond, _mm_setzero_si128() ) ) == 0xFFFF;
-#else
+    if ( length >= 4 ) {
+        // Four at a time, and the last four once more.
+        const auto load = [chs]( KoInt at ) {
+            return _mm_loadu_si128( reinterpret_cast<const __m128i *>( chs + at ) );
+        };
+        __m128i all = load( length - 4 );
+        for ( KoInt i = 0; length - i > 4; i += 4 ) {
+            all = _mm_or_si128( all, load( i ) );
+        }
+        const __m128i beyond = _mm_and_si128( all, _mm_set1_epi32( ~0x7F ) );
+        return _mm_movemask_epi8( _mm_cmpeq_epi32( beyond, _mm_setzero_si128() ) ) == 0xFFFF;
+    }
+#endif
     uint32_t any = 0;
-    for ( KoInt i = 0; i < 16; ++i ) {
+    for ( KoInt i = 0; i < length; ++i ) {
         any |= static_cast<uint32_t>( chs[i] );
     }
     return any < 0x80;
-#endif
 }
 
 /** Number of bytes of the UTF-8 form of characters. */
 inline KoInt Utf8Length( const KoChar *chs, KoInt length )
 {
+    if ( AreAscii( chs, length ) ) {
+        return length;
+    }
     KoInt need = 0;
-    KoInt i = 0;
-    for ( ; length - i >= 16; i += 16 ) {
-        if ( AreAscii16( chs + i ) ) {
-            need += 16;
-            continue;
-        }
-        for ( KoInt k = 0; k < 16; ++k ) {
-            need += Utf8Length( chs[i + k] );
-        }
-    }
-    uint32_t any = 0;
-    for ( KoInt k = i; k < length; ++k ) {
-        any |= static_cast<uint32_t>( chs[k] );
-    }
-    if ( any < 0x80 ) {
-        return need + length - i;
-    }
-    for ( ; i < length; ++i ) {
+    for ( KoInt i = 0; i < length; ++i ) {
         need += Utf8Length( chs[i] );
     }
     return need;
