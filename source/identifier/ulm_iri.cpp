@@ -4,6 +4,7 @@
 #include <address/wen_address.h>
 #include <identifier/ulm_iri.hpp>
 #include <runtime/ko_inner.hpp>
+#include <runtime/ko_string.h>
 
 #include <bit>
 #include <utility>
@@ -171,18 +172,28 @@ KoInt ulm___SkipIpV6Address( const KoChar *chs, KoInt length )
     return wen___SkipIpV6Address( chs, length );
 }
 
+namespace {
+
+/** The length of a run of digits whose value fits a KoInt; 0 if it does not. */
+[[gnu::noinline]] KoInt FittingLength( const KoChar *digits, KoInt length )
+{
+    KoInt value = 0;
+    KoInt taken = 0;
+    return koFormatTryDecodeIntChars( digits, length, 10, &value, &taken ) ? taken : 0;
+}
+
+} // namespace
+
 KoInt ulm___SkipPort( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    KoInt value = 0;
     KoInt at = 0;
-    for ( ; at < length && chs[at] >= '0' && chs[at] <= '9'; ++at ) {
-        if ( __builtin_mul_overflow( value, 10, &value ) || __builtin_add_overflow( value, chs[at] - '0', &value ) ) {
-            return 0;
-        }
+    while ( at < length && chs[at] >= '0' && chs[at] <= '9' ) {
+        ++at;
     }
-    return at;
+    constexpr KoInt alwaysFit = 18; // digits
+    return at <= alwaysFit ? at : FittingLength( chs, at );
 }
 
 KoBool ulmGensValidatePart( KoInt part, KoString iri )
