@@ -28,23 +28,43 @@ int HexValue( KoChar ch )
     return small >= 'a' && small <= 'f' ? small - 'a' + 10 : -1;
 }
 
-/** A run of at most `limit` digits of a base (10 or 16). */
-struct Number {
-    int value = 0;
-    KoInt length = 0; // one more than `limit` if there are more digits
-};
-
-Number ReadNumber( const KoChar *chs, KoInt length, int base, KoInt limit )
+/** Reads a number up to 255 without a leading zero. The number of its digits, or 0. */
+inline KoInt ReadByte( const KoChar *chs, KoInt length, uint8_t *byte )
 {
-    Number number;
-    for ( ; number.length < length && number.length <= limit; ++number.length ) {
-        const int digit = HexValue( chs[number.length] );
-        if ( digit < 0 || digit >= base ) {
+    const auto digit = [chs]( KoInt i ) { return static_cast<unsigned>( chs[i] ) - '0'; };
+    if ( length == 0 || digit( 0 ) > 9 ) {
+        return 0;
+    }
+    unsigned value = digit( 0 );
+    KoInt count = 1;
+    for ( ; count < length && digit( count ) <= 9; ++count ) {
+        const bool leadingZero = value == 0;
+        value = value * 10 + digit( count );
+        if ( leadingZero || value > 255 ) {
+            return 0;
+        }
+    }
+    *byte = static_cast<uint8_t>( value );
+    return count;
+}
+
+/** Reads one to four hexadecimal digits. Their number, or 0. */
+inline KoInt ReadGroup( const KoChar *chs, KoInt length, uint16_t *group )
+{
+    int value = 0;
+    KoInt count = 0;
+    for ( ; count < length; ++count ) {
+        const int digit = HexValue( chs[count] );
+        if ( digit < 0 ) {
             break;
         }
-        number.value = number.value * base + digit;
+        if ( count == 4 ) {
+            return 0;
+        }
+        value = value << 4 | digit;
     }
-    return number;
+    *group = static_cast<uint16_t>( value );
+    return count;
 }
 
 /** Reads an IPv4 address into four bytes. The number of characters, or 0. */
@@ -58,15 +78,24 @@ KoInt ReadIpV4( const KoChar *chs, KoInt length, uint8_t *bytes )
             }
             ++at;
         }
-        const Number number = ReadNumber( chs + at, length - at, 10, 3 );
-        const bool leadingZero = number.length > 1 && chs[at] == '0';
-        if ( number.length == 0 || number.length > 3 || number.value > 255 || leadingZero ) {
+        const KoInt count = ReadByte( chs + at, length - at, bytes + i );
+        if ( count == 0 ) {
             return 0;
         }
-        bytes[i] = static_cast<uint8_t>( number.value );
-        at += number.length;
+        at += count;
     }
     return at;
+}
+
+/** False when no IPv6 address begins a text: none has its first colon behind more than four characters. */
+bool MayBeginIpV6( const KoChar *chs, KoInt length )
+{
+    for ( KoInt i = 0; i < length && i <= 4; ++i ) {
+        if ( chs[i] == ':' ) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /** The groups of an IPv6 address as far as they are read. */
@@ -116,12 +145,12 @@ struct IpV6Reader {
 
     bool TakeGroup()
     {
-        const Number number = ReadNumber( chs + at, length - at, 16, 4 );
-        if ( number.length == 0 || number.length > 4 ) {
+        const KoInt taken = ReadGroup( chs + at, length - at, groups + count );
+        if ( taken == 0 ) {
             return false;
         }
-        groups[count++] = static_cast<uint16_t>( number.value );
-        Take( number.length );
+        ++count;
+        Take( taken );
         return true;
     }
 
@@ -290,6 +319,9 @@ KoInt wen___SkipIpV4Address( const KoChar *chs, KoInt length )
 
 KoInt wen___SkipIpV6Address( const KoChar *chs, KoInt length )
 {
+    if ( !wen::MayBeginIpV6( chs, length ) ) {
+        return 0;
+    }
     wen::IpV6Reader reader{ chs, length };
     reader.Read();
     return reader.end;

@@ -207,7 +207,7 @@ void AddUnicodeHost( Text host, Output &out )
 KoString ConvertFromUri( const Iri &iri, Text uri, KoString same )
 {
     const bool plain = iri.ascii && iri.asciiEscapes;
-    if ( plain && !iri.hyphen ) {
+    if ( plain && !iri.hyphens ) {
         return same ? koStringRetain( same ) : koStringCreateFromCharsCopy( uri.chs, uri.length );
     }
     const Host host( iri, uri.chs );

@@ -16,7 +16,6 @@ enum CharClass : uint8_t {
     charPlain = 1u << 2, // characters of an identifier without a meaning to it
     charHex = 1u << 3,
     charHostMark = 1u << 4, // the end of a host, and the dot
-    charHyphen = 1u << 5,
 };
 
 consteval std::array<uint8_t, 128> MakeCharTable()
@@ -32,7 +31,6 @@ consteval std::array<uint8_t, 128> MakeCharTable()
     add( charScheme | charPlain, "0123456789+-." );
     add( charPlain, "_~!$&'()*,;=:/[]" );
     add( charHostMark, ".:;?#/" );
-    add( charHyphen, "-" );
     add( charHex, "0123456789ABCDEFabcdef" );
     return table;
 }
@@ -43,21 +41,6 @@ inline constexpr std::array<uint8_t, 128> charTable = MakeCharTable();
 inline bool Is( KoChar ch, CharClass charClass )
 {
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & charClass ) != 0;
-}
-
-/** True when each of four characters is plain: a run of them costs one branch for four. Adds their classes to `seen`. */
-inline bool AreFourPlain( const KoChar *chs, unsigned &seen )
-{
-    const auto at = [&]( int i ) { return static_cast<uint32_t>( chs[i] ); };
-    if ( ( at( 0 ) | at( 1 ) | at( 2 ) | at( 3 ) ) >= charTable.size() ) {
-        return false;
-    }
-    const unsigned a = charTable[at( 0 )];
-    const unsigned b = charTable[at( 1 )];
-    const unsigned c = charTable[at( 2 )];
-    const unsigned d = charTable[at( 3 )];
-    seen |= a | b | c | d;
-    return ( a & b & c & d & charPlain ) != 0;
 }
 
 /** ucschar of RFC 3987. */
@@ -90,59 +73,13 @@ struct Iri {
     bool secondAt = false;
     bool ascii = true;        // no other character
     bool asciiEscapes = true; // and none that is escaped
-    bool hyphen = false;      // one was seen, so that there may be an xn-- label
+    bool hyphens = false;     // there may be two in a row, as in an xn-- label
+    bool query = false;
+    bool fragment = false;
 };
 
 /** Reads the longest identifier at the start of a text, in one pass. */
-inline Iri Read( const KoChar *chs, KoInt length )
-{
-    Iri iri;
-    if ( length == 0 || !Is( chs[0], charAlpha ) ) {
-        return iri;
-    }
-    KoInt i = 1;
-    while ( i < length && Is( chs[i], charScheme ) ) {
-        ++i;
-    }
-    if ( i == length || chs[i] != ':' ) {
-        return iri;
-    }
-    iri.colon = i++;
-    bool query = false;
-    bool fragment = false;
-    unsigned seen = 0;
-    for ( ;; ++i ) {
-        while ( length - i >= 4 && AreFourPlain( chs + i, seen ) ) {
-            i += 4;
-        }
-        while ( i < length && Is( chs[i], charPlain ) ) {
-            seen |= charTable[static_cast<size_t>( chs[i] )];
-            ++i;
-        }
-        if ( i == length ) {
-            break;
-        }
-        const KoChar ch = chs[i];
-        if ( ch == '@' ) {
-            iri.secondAt = iri.at >= 0;
-            iri.at = iri.at >= 0 ? iri.at : i;
-        } else if ( ch == '?' ) {
-            query = true;
-        } else if ( ch == '#' && !fragment ) {
-            fragment = true;
-        } else if ( IsEscape( chs, length, i ) ) {
-            iri.asciiEscapes = iri.asciiEscapes && chs[i + 1] < '8';
-            i += 2;
-        } else if ( IsUcschar( ch ) || ( query && IsPrivate( ch ) ) ) {
-            iri.ascii = false;
-        } else {
-            break;
-        }
-    }
-    iri.hyphen = ( seen & charHyphen ) != 0;
-    iri.length = i;
-    return iri;
-}
+Iri Read( const KoChar *chs, KoInt length );
 
 } // namespace ulm
 

@@ -298,6 +298,33 @@ TEST_F( UlmConvert, EachCharacter )
     }
 }
 
+// Each place at which an encoded label can begin in a block of characters, and end in the last.
+TEST_F( UlmConvert, EncodedLabelAtEachPlace )
+{
+    for ( size_t count = 1; count < 40; ++count ) {
+        const std::string user( count, 'u' );
+        for ( size_t behind = 0; behind < 20; ++behind ) {
+            const std::string rest = behind > 0 ? ";" + std::string( behind, 'r' ) : "";
+            EXPECT_EQ( FromUri( "sip:" + user + "@xn--bcher-kva" + rest ), "sip:" + user + "@b\u00FCcher" + rest );
+            EXPECT_EQ( FromUri( "sip:" + user + ".xn--bcher-kva" + rest ), "sip:" + user + ".b\u00FCcher" + rest );
+        }
+        EXPECT_EQ( FromUri( "sip:" + user + "@-a-b-.c" ), "sip:" + user + "@-a-b-.c" );
+        EXPECT_EQ( FromUri( "sip:" + user + "@an--b" ), "sip:" + user + "@an--b" );
+        EXPECT_EQ( FromUri( "sip:" + user + "--@axn--bcher-kva" ), "sip:" + user + "--@axn--bcher-kva" );
+    }
+}
+
+// What ends an identifier is no part of it: the host that stands before is ASCII, and is left alone.
+TEST_F( UlmConvert, WhatEndsAnIdentifierIsNotSeen )
+{
+    for ( const char *const end : { "\u0080", "\uE000", "%", "%F", ">%C3%BC", ">xn--a", " \u00FC" } ) {
+        const test::Exact chs( std::string( "sip:A@B-C" ) + end );
+        KoString taken = nullptr;
+        ulm___TakeIri( chs.Chars(), chs.Length(), &taken );
+        EXPECT_EQ( Take( taken ), "sip:A@B-C" ) << end;
+    }
+}
+
 TEST_F( UlmConvert, Laws )
 {
     static const char *const pieces[] = {

@@ -3,7 +3,9 @@
 
 #include "test.h"
 
+#include <algorithm>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -62,6 +64,13 @@ TEST_F( UlmIri, SkipsIris )
         { "http://user:pw@example.com:80/a/b?c=d&e=f#g", 43 },
         { "mailto:a@b,c@d", 14 },
         { "x+y-z.1:a", 9 },
+        { "sipx:a", 6 },
+        { "sip-:a", 6 },
+        { "sip;:a", 0 },
+        { "sip", 0 },
+        { "si", 0 },
+        { "si:p", 4 },
+        { "siP:p", 5 },
         { "1:a", 0 }, // a scheme begins with a letter
         { "+a:b", 0 },
         { ":a", 0 },
@@ -197,6 +206,47 @@ TEST_F( UlmIri, EachCharacter )
         ASSERT_EQ( taken, wanted ) << std::hex << ch;
         const KoChar behind[] = { 's', ':', '?', ch };
         ASSERT_EQ( ulm___SkipIri( behind, 4 ), query ? 4 : 3 ) << std::hex << ch;
+    }
+}
+
+// Texts of each length with another character at each place, so in each place of a block of any size.
+TEST_F( UlmIri, EachPlace )
+{
+    static constexpr KoChar goOn[] = { '@',    '?',    '#', '!',    '$',    '&',     ';',     '=',    'A',  'Z',
+                                       'a',    'z',    '[', ']',    '_',    '~',     '-',     0xA0,   0xFF, 0x7FFF,
+                                       0x8000, 0xD7FF, '0', 0xF900, 0xFFEF, 0x10000, 0x10061, 0x1FFFD };
+    static constexpr KoChar stop[] = { 0,      ' ',      '"',        '%',       '<',       '>',
+                                       '\\',   '^',      '`',        '{',       '|',       '}',
+                                       0x7F,   0x80,     0x9F,       0xD800,    0xE000,    0xFFF0,
+                                       0xFFFF, 0x110000, 0x7FFF0061, INT32_MAX, INT32_MIN, INT32_MIN + 'x',
+                                       -1,     -0x8000 };
+    static constexpr size_t most = 60;
+    for ( size_t length = 4; length <= most; ++length ) {
+        std::vector<KoChar> chs( length, 'x' );
+        constexpr KoChar scheme[] = { 's', 'i', 'p', ':' };
+        std::copy( std::begin( scheme ), std::end( scheme ), chs.begin() );
+        const auto taken = [&] { return ulm___SkipIri( chs.data(), static_cast<KoInt>( length ) ); };
+        ASSERT_EQ( taken(), length );
+        for ( size_t place = 4; place < length; ++place ) {
+            for ( const KoChar ch : goOn ) {
+                chs[place] = ch;
+                ASSERT_EQ( taken(), length ) << std::hex << ch << " at " << place;
+            }
+            for ( const KoChar ch : stop ) {
+                chs[place] = ch;
+                ASSERT_EQ( taken(), place ) << std::hex << ch << " at " << place;
+            }
+            chs[place] = 'x';
+        }
+        for ( size_t place = 4; place + 2 < length; ++place ) {
+            chs[place] = '%';
+            chs[place + 1] = '4';
+            chs[place + 2] = 'f';
+            ASSERT_EQ( taken(), length ) << place;
+            chs[place + 2] = 'g';
+            ASSERT_EQ( taken(), place );
+            chs[place] = chs[place + 1] = chs[place + 2] = 'x';
+        }
     }
 }
 
