@@ -379,6 +379,9 @@ inline KoInt AddrSpec( const KoChar *chs, KoInt length )
 inline KoInt DisplayName( const KoChar *chs, KoInt length )
 {
     Walk w( chs, length );
+    if ( length > 0 && chs[0] == '<' ) {
+        return 0; // most often there is no name
+    }
     if ( !w.Need( QuotedString ) ) {
         while ( w.Need( Token ) && w.Maybe( Sws ) ) {
         }
