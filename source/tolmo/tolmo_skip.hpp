@@ -111,7 +111,8 @@ inline KoInt AsciiCaseFold( const KoChar *chs, KoInt length, const Unit *fixed, 
         return 0;
     }
     for ( KoInt i = 0; i < fixedLength; ++i ) {
-        if ( AsciiLower( chs[i] ) != AsciiLower( fixed[i] ) ) {
+        const KoChar wanted = fixed[i];
+        if ( chs[i] != wanted && ( ( chs[i] ^ wanted ) != ( 'a' ^ 'A' ) || !Is( wanted, charAlpha ) ) ) {
             return 0;
         }
     }
