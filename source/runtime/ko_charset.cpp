@@ -24,6 +24,21 @@ KoChar *DecodeAll( KoChar *to, const uint8_t *bytes, KoInt length )
     return to;
 }
 
+/** Encodes what is left behind the first characters, which were ASCII; returns the number of bytes of all. */
+[[gnu::noinline]] KoInt EncodeRest( uint8_t *begin, const KoChar *chs, KoInt length, KoInt ascii )
+{
+    uint8_t *to = begin + ascii;
+    for ( KoInt i = ascii; i < length; ) {
+        for ( ; i < length && static_cast<uint32_t>( chs[i] ) >= 0x80; ++i ) {
+            to += ko::EncodeUtf8( to, chs[i] );
+        }
+        ascii = ko::NarrowAscii( to, chs + i, length - i );
+        i += ascii;
+        to += ascii;
+    }
+    return to - begin;
+}
+
 } // namespace
 
 KoString koCharsetTryConvertBufferToStringWithFlags( KoInt charset, KoBuffer b, KoInt flags )
@@ -58,14 +73,6 @@ KoInt koCharsConvertToUtf8( void *out, KoInt capacity, const KoChar *chs, KoInt 
         }
     }
     auto *const begin = static_cast<uint8_t *>( out );
-    uint8_t *to = begin;
-    for ( KoInt i = 0; i < count; ) {
-        const KoInt ascii = ko::NarrowAscii( to, chs + i, count - i );
-        i += ascii;
-        to += ascii;
-        for ( ; i < count && static_cast<uint32_t>( chs[i] ) >= 0x80; ++i ) {
-            to += ko::EncodeUtf8( to, chs[i] );
-        }
-    }
-    return to - begin;
+    const KoInt ascii = ko::NarrowAscii( begin, chs, count );
+    return ascii == count ? count : EncodeRest( begin, chs, count, ascii );
 }

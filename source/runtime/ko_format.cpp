@@ -3,6 +3,8 @@
 
 #include <runtime/ko_string.hpp>
 
+#include <algorithm>
+
 namespace {
 
 /** The text of a number: blanks, a minus sign, zeros, digits. */
@@ -21,7 +23,7 @@ public:
             digits[--first] = alphabet[rest - quotient * divisor];
             rest = quotient;
         } while ( rest );
-        const KoInt padding = koIntMax( 0, width - DigitCount() );
+        const KoInt padding = std::max<KoInt>( 0, width - DigitCount() );
         ( flags & KO_FORMAT_ZEROS ? zeros : blanks ) = padding;
     }
 
@@ -208,41 +210,15 @@ KoString CreateFormatted( const Unit *format, KoInt length, va_list arguments )
     return s;
 }
 
-/** The value of a digit in any base; 36 for what is none. */
-KoInt DigitValue( KoChar ch )
+/** The value of a digit in a base; what is not below the base for what is none. */
+KoInt DigitValue( KoChar ch, KoInt base )
 {
-    if ( ch >= '0' && ch <= '9' ) {
-        return ch - '0';
+    const KoInt decimal = static_cast<uint32_t>( ch ) - '0';
+    if ( decimal < base && decimal < 10 ) {
+        return decimal;
     }
-    if ( ch >= 'a' && ch <= 'z' ) {
-        return ch - 'a' + 10;
-    }
-    if ( ch >= 'A' && ch <= 'Z' ) {
-        return ch - 'A' + 10;
-    }
-    return 36;
-}
-
-KoBool ScanInt( const KoChar *chs, KoInt length, KoInt base, KoInt *value, KoInt *consumed )
-{
-    const bool negative = length > 0 && chs[0] == '-';
-    KoInt at = negative;
-    KoInt number = 0; // kept at or below 0, where the least number is
-    for ( ; at < length; ++at ) {
-        const KoInt digit = DigitValue( chs[at] );
-        if ( digit >= base ) {
-            break;
-        }
-        if ( __builtin_mul_overflow( number, base, &number ) || __builtin_sub_overflow( number, digit, &number ) ) {
-            return KO_FALSE;
-        }
-    }
-    if ( at == negative || ( !negative && number == INT64_MIN ) ) {
-        return KO_FALSE;
-    }
-    *value = negative ? number : -number;
-    *consumed = at;
-    return KO_TRUE;
+    const KoInt letter = ( static_cast<uint32_t>( ch ) | 0x20 ) - 'a';
+    return letter < 26 ? letter + 10 : base;
 }
 
 } // namespace
@@ -305,7 +281,8 @@ KoBool koStringScanInt( KoString s, KoInt offset, KoInt length, KoInt base, KoIn
     KO_REQUIRE( base >= 2 && base <= 36 );
     KO_REQUIRE( value );
     KO_REQUIRE( consumed );
-    return ScanInt( ko::Chars( s ) + offset, length < 0 ? s->length - offset : length, base, value, consumed );
+    const KoInt count = length < 0 ? s->length - offset : length;
+    return koFormatTryDecodeIntChars( ko::Chars( s ) + offset, count, base, value, consumed );
 }
 
 KoString koFormatEncodeInt( KoInt value, KoInt base, KoInt width, KoInt flags )
@@ -326,5 +303,23 @@ KoBool koFormatTryDecodeIntChars( const KoChar *chs, KoInt length, KoInt base, K
     KO_REQUIRE( base >= 2 && base <= 36 );
     KO_REQUIRE( value );
     KO_REQUIRE( consumed );
-    return ScanInt( chs, ko::TextLength( chs, length ), base, value, consumed );
+    const KoInt count = ko::TextLength( chs, length );
+    const bool negative = count > 0 && chs[0] == '-';
+    KoInt at = negative;
+    KoInt number = 0; // kept at or below 0, where the least number is
+    for ( ; at < count; ++at ) {
+        const KoInt digit = DigitValue( chs[at], base );
+        if ( digit >= base ) {
+            break;
+        }
+        if ( __builtin_mul_overflow( number, base, &number ) || __builtin_sub_overflow( number, digit, &number ) ) {
+            return KO_FALSE;
+        }
+    }
+    if ( at == negative || ( !negative && number == INT64_MIN ) ) {
+        return KO_FALSE;
+    }
+    *value = negative ? number : -number;
+    *consumed = at;
+    return KO_TRUE;
 }

@@ -92,33 +92,43 @@ inline KoInt WidenAscii( KoChar *to, const uint8_t *from, KoInt length )
     return i;
 }
 
+#if defined( __SSE2__ )
+/**
+ * Narrows characters to bytes if all of them are ASCII; otherwise returns false. They are as many as `end` (4 or 8), up
+ * to twice as many: the first and the last of them are taken, which may overlap.
+ */
+template <KoInt end>
+inline bool NarrowEnds( uint8_t *to, const KoChar *from, KoInt length )
+{
+    const auto load = [from]( KoInt i ) { return _mm_loadu_si128( reinterpret_cast<const __m128i *>( from + i ) ); };
+    const KoInt last = length - end;
+    // Words saturate, so what is no ASCII character is no word below 0x80 either.
+    const __m128i low = end == 8 ? _mm_packs_epi32( load( 0 ), load( 4 ) ) : _mm_packs_epi32( load( 0 ), load( last ) );
+    const __m128i high = end == 8 ? _mm_packs_epi32( load( last ), load( last + 4 ) ) : low;
+    const __m128i raised = _mm_adds_epu16( _mm_or_si128( low, high ), _mm_set1_epi16( 0x7F80 ) );
+    if ( ( _mm_movemask_epi8( raised ) & 0xAAAA ) != 0 ) {
+        return false;
+    }
+    uint8_t bytes[16];
+    _mm_storeu_si128( reinterpret_cast<__m128i *>( bytes ), _mm_packus_epi16( low, high ) );
+    memcpy( to, bytes, end );
+    memcpy( to + last, bytes + end, end );
+    return true;
+}
+#endif
+
 /** Narrows characters to bytes up to the first that is not ASCII, and returns how many. */
-inline KoInt NarrowAscii( uint8_t *to, const KoChar *from, KoInt length )
+[[gnu::always_inline]] inline KoInt NarrowAscii( uint8_t *to, const KoChar *from, KoInt length )
 {
     KoInt i = 0;
 #if defined( __SSE2__ )
-    const __m128i beyond = _mm_set1_epi32( ~0x7F );
-    for ( ; length - i >= 16; i += 16 ) {
-        const auto *const in = reinterpret_cast<const __m128i *>( from + i );
-        const __m128i a = _mm_loadu_si128( in );
-        const __m128i b = _mm_loadu_si128( in + 1 );
-        const __m128i c = _mm_loadu_si128( in + 2 );
-        const __m128i d = _mm_loadu_si128( in + 3 );
-        const __m128i all = _mm_or_si128( _mm_or_si128( a, b ), _mm_or_si128( c, d ) );
-        if ( _mm_movemask_epi8( _mm_cmpeq_epi32( _mm_and_si128( all, beyond ), _mm_setzero_si128() ) ) != 0xFFFF ) {
-            break;
-        }
-        _mm_storeu_si128( reinterpret_cast<__m128i *>( to + i ),
-                          _mm_packus_epi16( _mm_packs_epi32( a, b ), _mm_packs_epi32( c, d ) ) );
+    while ( length - i > 16 && NarrowEnds<8>( to + i, from + i, 16 ) ) {
+        i += 16;
     }
-    for ( ; length - i >= 4; i += 4 ) {
-        const __m128i a = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from + i ) );
-        if ( _mm_movemask_epi8( _mm_cmpeq_epi32( _mm_and_si128( a, beyond ), _mm_setzero_si128() ) ) != 0xFFFF ) {
-            break;
-        }
-        const __m128i words = _mm_packs_epi32( a, a );
-        const int four = _mm_cvtsi128_si32( _mm_packus_epi16( words, words ) );
-        memcpy( to + i, &four, sizeof four );
+    const KoInt rest = length - i;
+    if ( rest >= 8 ? rest <= 16 && NarrowEnds<8>( to + i, from + i, rest )
+                   : rest >= 4 && NarrowEnds<4>( to + i, from + i, rest ) ) {
+        return length;
     }
 #endif
     for ( ; i < length && static_cast<uint32_t>( from[i] ) < 0x80; ++i ) {

@@ -336,11 +336,18 @@ TEST_F( KoCharset, RunsOfAscii )
         }
     }
     // A character whose low bytes look like ASCII is none.
-    for ( const KoChar ch : { 0x80, 0x161, 0x10061, 0x1000061, INT32_MIN + 'a', -1 } ) {
-        std::vector<KoChar> chs( 16, 'a' );
-        chs[5] = ch;
-        uint8_t narrow[16];
-        EXPECT_EQ( ko::NarrowAscii( narrow, chs.data(), 16 ), 5 );
+    for ( const KoChar ch : { 0x80, 0x161, 0x7FFF, 0x8000, 0x8061, 0xFFFF, 0x10061, 0x1000061, INT32_MAX, INT32_MIN,
+                              INT32_MIN + 'a', -1, -0x8000, -0x7FFF } ) {
+        for ( size_t length = 1; length <= 40; ++length ) {
+            const auto narrow = std::make_unique<uint8_t[]>( length );
+            std::vector<KoChar> chs( length, 'a' );
+            for ( size_t place = 0; place < length; ++place ) {
+                chs[place] = ch;
+                const KoInt taken = ko::NarrowAscii( narrow.get(), chs.data(), static_cast<KoInt>( length ) );
+                ASSERT_EQ( taken, place ) << std::hex << ch;
+                chs[place] = 'a';
+            }
+        }
     }
 }
 
