@@ -169,8 +169,10 @@ NameId RecognizeName( const uint8_t *bytes, KoInt length )
     if ( length > longestKnownName ) {
         return unknownName;
     }
-    // Most names end within the first word, and then so does the name that they are compared with.
-    return length < 8 ? RecognizeWords<1>( bytes, length ) : RecognizeWords<words>( bytes, length );
+    // Most names end within the first word or two, and then so does the name that they are compared with.
+    return length < 8    ? RecognizeWords<1>( bytes, length )
+           : length < 16 ? RecognizeWords<2>( bytes, length )
+                         : RecognizeWords<words>( bytes, length );
 }
 
 NameId RecognizeName( const KoChar *chs, KoInt length )

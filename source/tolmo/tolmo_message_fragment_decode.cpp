@@ -108,7 +108,7 @@ public:
     LineEnds( const uint8_t *bytes, KoInt length, bool wholeMessage )
     {
         ascii = ForEachLineEnd( bytes, 0, length, [&]( KoInt place ) {
-            if ( wholeMessage && count > 0 && place == last + 2 ) {
+            if ( place == last + 2 && wholeMessage && count > 0 ) {
                 emptyLine = place;
                 return false;
             }
@@ -116,7 +116,6 @@ public:
                 ends[count] = place;
             }
             ++count;
-            filled += place > last + 2;
             last = place;
             return true;
         } );
@@ -128,8 +127,8 @@ public:
     /** True when the head is known to be ASCII. */
     [[nodiscard]] bool IsAscii() const { return ascii; }
 
-    /** How many lines there are at most that are not empty: those with a CR LF, and what stands behind the last. */
-    [[nodiscard]] KoInt FilledLines() const { return filled + 1; }
+    /** How many lines there are at most: those with a CR LF, and what stands behind the last. */
+    [[nodiscard]] KoInt Lines() const { return count + 1; }
 
     /** Where line `line` ends, which begins at `begin`. The first ones are remembered. */
     [[nodiscard]] KoInt EndOf( KoInt line, const uint8_t *bytes, KoInt begin, KoInt length ) const
@@ -143,8 +142,7 @@ public:
 private:
     static constexpr KoInt kept = 64;
 
-    KoInt count = 0;  // of CR LF
-    KoInt filled = 0; // of those that do not end an empty line
+    KoInt count = 0; // of CR LF
     KoInt last = -2;
     KoInt emptyLine = -1;
     bool ascii = false;
@@ -366,12 +364,12 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     if ( length > longestHead || !( ends.IsAscii() || IsUtf8( bytes, length ) ) ) {
         return {};
     }
-    auto decoded = CreateDecodedHead( ends.FilledLines(), length );
+    auto decoded = CreateDecodedHead( ends.Lines(), length );
     DecodedHead *const head = decoded.Get();
     if ( length > 0 ) {
         memcpy( head->Text(), bytes, static_cast<size_t>( length ) );
     }
-    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.FilledLines() + 2, 40 ), std::move( decoded ) ) );
+    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.Lines() + 2, 40 ), std::move( decoded ) ) );
     const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
     switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {

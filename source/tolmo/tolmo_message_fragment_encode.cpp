@@ -15,6 +15,7 @@ class Counter {
 public:
     void Write( const void *, KoInt length ) { count += length; }
     void Write( KoString s ) { count += ko::Utf8Length( ko::Chars( s ), s->length ); }
+    void Write( const WireName &name ) { count += name.length; }
     void WritePadded( const void *, KoInt length ) { count += length; }
     [[nodiscard]] KoInt Count() const { return count; }
 
@@ -40,6 +41,11 @@ public:
         for ( KoInt i = ascii; i < s->length; ++i ) {
             to += ko::EncodeUtf8( to, ko::Chars( s )[i] );
         }
+    }
+    void Write( const WireName &name )
+    {
+        memcpy( to, name.text, slack );
+        to += name.length;
     }
     /** Bytes behind which `slack` more can be read: copied in blocks, without a call and with next to no branch. */
     void WritePadded( const void *bytes, KoInt length )
@@ -153,8 +159,7 @@ private:
     {
         decoded->ForEach( entry.lines, [&]( const RawLine &line ) {
             if ( entry.IsKnown() ) {
-                const WireName &name = wireNames[entry.name];
-                output.WritePadded( name.text, name.length );
+                output.Write( wireNames[entry.name] );
             } else {
                 output.WritePadded( decoded->Text() + entry.name, entry.nameLength );
                 output.Write( ": ", 2 );
