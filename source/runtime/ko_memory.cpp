@@ -23,7 +23,7 @@ constexpr int32_t noClass = -1;
 constexpr size_t keptBytes = 32768;
 constexpr uint32_t keptBlocks = 4;
 
-#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
+#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ ) || defined( KO_KEEP_NO_BLOCKS )
 constexpr bool keepsBlocks = false;
 #elif defined( __has_feature )
 #if __has_feature( address_sanitizer ) || __has_feature( thread_sanitizer ) || __has_feature( memory_sanitizer )
