@@ -214,7 +214,7 @@ TEST_F( TimeTest, NowOnEachDayOfThisAge )
 {
     std::mt19937 random( 6 );
     for ( int64_t day = 0; day < 366 * 135; ++day ) {
-        const timespec instant = { .tv_sec = static_cast<time_t>( day * 86400 + random() % 86400 ),
+        const timespec instant = { .tv_sec = day * 86400 + static_cast<int64_t>( random() % 86400 ),
                                    .tv_nsec = 999999999 };
         pretended = &instant;
         const auto now = Time::Adopt( koTimeNow() );
