@@ -30,8 +30,13 @@ if( TOLMO_SANITIZE )
         -fsanitize=${TOLMO_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS )
     target_link_options( tolmo_options INTERFACE -fsanitize=${TOLMO_SANITIZE} )
 endif()
+if( TOLMO_VALGRIND )
+    target_compile_definitions( tolmo_options INTERFACE KO_KEEP_NO_BLOCKS )
+endif()
 if( TOLMO_COVERAGE )
-    target_compile_options( tolmo_options INTERFACE --coverage -O0 -fno-inline )
+    # Threads count too, and none of their counts is lost. With exceptions, an inline function would have other branches in
+    # a test than in a library, and the two could not be added up.
+    target_compile_options( tolmo_options INTERFACE --coverage -fprofile-update=atomic -fno-exceptions -O0 -fno-inline )
     target_link_options( tolmo_options INTERFACE --coverage )
 endif()
 

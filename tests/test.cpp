@@ -8,7 +8,40 @@
 #include <cctype>
 #include <csignal>
 
+#if defined( TEST_COVERAGE )
+extern "C" { // which the header of g++ 12 leaves to its reader
+#include <gcov.h>
+}
+#endif
+
 namespace test {
+namespace {
+
+/** In a child process that has just begun. */
+void BeginChild()
+{
+    const rlimit noCore{ 0, 0 };
+    setrlimit( RLIMIT_CORE, &noCore );
+#if defined( TEST_COVERAGE )
+    // The counts so far are the parent's. Those of the child are written before abort() ends it, which goes on when the
+    // handler returns.
+    __gcov_reset();
+    std::signal( SIGABRT, []( int ) { __gcov_dump(); } );
+#else
+    std::signal( SIGABRT, SIG_DFL );
+#endif
+}
+
+/** In a child process whose statement did not abort. */
+[[noreturn]] void EndChild()
+{
+#if defined( TEST_COVERAGE )
+    __gcov_dump();
+#endif
+    _exit( 0 );
+}
+
+} // namespace
 
 Ending RunInChild( const std::function<void()> &statement )
 {
@@ -18,14 +51,12 @@ Ending RunInChild( const std::function<void()> &statement )
     }
     const pid_t child = fork();
     if ( child == 0 ) {
-        const rlimit noCore{ 0, 0 };
-        setrlimit( RLIMIT_CORE, &noCore );
-        std::signal( SIGABRT, SIG_DFL );
         dup2( ends[1], STDERR_FILENO );
         close( ends[0] );
         close( ends[1] );
+        BeginChild();
         statement();
-        _exit( 0 );
+        EndChild();
     }
     close( ends[1] );
     Ending ending;

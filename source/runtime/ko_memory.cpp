@@ -17,7 +17,7 @@ constexpr size_t largeLimit = 65536;
 constexpr size_t keptBytes = 32768;
 constexpr int32_t keptBlocks = 4;
 
-#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ )
+#if defined( __SANITIZE_ADDRESS__ ) || defined( __SANITIZE_THREAD__ ) || defined( KO_KEEP_NO_BLOCKS )
 constexpr bool keepsBlocks = false;
 #elif defined( __has_feature )
 #if __has_feature( address_sanitizer ) || __has_feature( thread_sanitizer ) || __has_feature( memory_sanitizer )

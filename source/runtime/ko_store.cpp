@@ -22,16 +22,15 @@ KoObj Contents( KoStore store )
     return store->names ? koDictObj( store->names ) : koVectorObj( store->items );
 }
 
-/** Takes the contents out of a store that ends with its parent. */
+/** Takes the contents out of a store that ends with its parent. It has only this one, so that they are there. */
 void MoveContents( KoObj entry, KoVector *pending )
 {
     if ( entry->sort == &storeSort && ko___IsUnique( entry ) ) {
         const auto store = reinterpret_cast<KoStore>( entry );
-        if ( const auto contents = KoRef<KoObj>::Adopt( Contents( store ) ) ) {
-            koVectorAppendObj( pending, contents.Get() );
-            store->names = nullptr;
-            store->items = nullptr;
-        }
+        const auto contents = KoRef<KoObj>::Adopt( Contents( store ) );
+        koVectorAppendObj( pending, contents.Get() );
+        store->names = nullptr;
+        store->items = nullptr;
     }
 }
 

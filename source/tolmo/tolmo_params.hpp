@@ -82,13 +82,10 @@ inline bool StoreText( KoString &field, Text value )
     return true;
 }
 
-/** Keeps a decoded value in a field, if it is not the null by which decoders refuse. */
+/** Keeps a decoded value in a field. Always accepts: what the skip function of the value takes, decodes. */
 template <class Handle>
 bool StoreGood( Handle &field, KoRef<Handle> value )
 {
-    if ( !value ) {
-        return false;
-    }
     Store( field, std::move( value ) );
     return true;
 }

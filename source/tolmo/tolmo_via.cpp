@@ -481,10 +481,7 @@ TolmoVia tolmo___ViaTryDecode( const KoChar *chs, KoInt length )
         if ( !w.Need( skip::Port ) ) {
             return nullptr;
         }
-        via.Get()->port = tolmo___PortTryDecode( w.Last().chs, w.Last().length );
-        if ( !tolmoPortOk( via.Get()->port ) ) {
-            return nullptr;
-        }
+        via.Get()->port = tolmo___PortTryDecode( w.Last().chs, w.Last().length ); // what skip::Port takes, decodes
     }
     return tolmo::TakeParams( w, [&] { return TakeParam( w, via.Get() ); } ) ? via.Leak() : nullptr;
 }

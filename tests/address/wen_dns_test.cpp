@@ -217,6 +217,7 @@ const NameRow nameRows[] = {
     { "\u0646\u200C", nullptr, nullptr },
     { "\u0628\u064E\u200C\u064E\u0628", "xn--ngba7ia3604a", nullptr }, // transparent marks on both sides
     { "\u0627\u200C\u0628", nullptr, nullptr },                        // alef joins on its right side only
+    { "\uA872\u200C\uA840", "xn--0ug4674ciea", nullptr },              // a letter that joins on its left side only
     { "\u05D0a", nullptr, nullptr },                                   // right to left, bidi
     { "a\u05D0", nullptr, nullptr },
     { "\u05D01", "xn--1-zhc", nullptr },
@@ -312,6 +313,8 @@ TEST_F( WenDns, Lengths )
     const std::string label = "xn--" + Repeat( "a", 56 ) + "-0ca";
     EXPECT_TRUE( Ok( label ) );
     EXPECT_EQ( ToUnicode( label ), label );
+    // A label that is not composed, and is too long to be.
+    EXPECT_FALSE( Ok( Repeat( "\u1EC7", 100 ) + "\u0301" ) );
     // The longest text that one label can come from.
     EXPECT_TRUE( Ok( Repeat( "\u00AD", 100'000 ) + u ) );
     EXPECT_EQ( ToAscii( Repeat( "\u1F82", 3 ) ), ToAscii( Repeat( "\u03B1\u0313\u0300\u0345", 3 ) ) );

@@ -130,6 +130,9 @@ TEST( WenPunycode, RefusesWhatIsNone )
         EXPECT_EQ( Decode( text ), "(null)" ) << text;
     }
     EXPECT_EQ( Decode( std::string( 1'000, '9' ) ), "(null)" );
+    const KoChar negative[] = { 'a', -1, '-', 'k', 'v', 'a' }; // no character, in front of the delimiter
+    KoChar out[std::size( negative )];
+    EXPECT_EQ( wen::PunycodeDecode( negative, std::size( negative ), out ), -1 );
 }
 
 TEST( WenPunycode, KeepsTheRoom )

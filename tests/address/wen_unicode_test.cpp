@@ -224,6 +224,32 @@ TEST( WenUnicode, NormalisesWhatComposes )
     }
 }
 
+TEST( WenUnicode, RefusesWhatDecomposesToTooMuch )
+{
+    static const struct {
+        const char *name;
+        KoChar last;
+        int parts; // of the last character
+    } rows[] = {
+        { "a letter", 'a', 1 },
+        { "a letter with two marks", 0x1D8, 3 },
+        { "a syllable of two", 0xAC00, 2 },
+        { "a syllable of three", 0xAC01, 3 },
+    };
+    for ( const auto &row : rows ) {
+        for ( int room = 0; room <= row.parts; ++room ) {
+            // Half as many letters as decompose to two each, and plain ones, leave just so much room.
+            const int filled = wen::normaliseLimit - room;
+            Points points( static_cast<size_t>( filled / 2 ), 0xFC );
+            points.insert( points.end(), static_cast<size_t>( filled % 2 ), 'a' );
+            points.push_back( row.last );
+            const auto length = static_cast<int>( points.size() );
+            points.resize( wen::normaliseLimit );
+            EXPECT_EQ( wen::Normalise( points.data(), length ) == -1, room < row.parts ) << row.name << ", " << room;
+        }
+    }
+}
+
 TEST( WenUnicode, NormalisesAsIcu )
 {
     // Characters that do something: marks, what composes, Hangul.

@@ -167,6 +167,8 @@ TEST_F( UlmConvert, FromUri )
         { "sip:a@xn--bcher-kva@b", nullptr },
         { "sip:a@xn--bcher-kva;x=c@d", nullptr },
         { "tel:xn--bcher-kva", nullptr }, // sip and sips only
+        { "sid:a@xn--bcher-kva", nullptr },
+        { "sims:a@xn--bcher-kva", nullptr },
         { "sipx:a@xn--bcher-kva", nullptr },
         { "sip+s:a@xn--bcher-kva", nullptr },
         { "http://xn--bcher-kva", nullptr },

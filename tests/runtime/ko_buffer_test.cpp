@@ -319,6 +319,7 @@ TEST_F( BufferTest, Preconditions )
     EXPECT_ABORT( koBufferCreateFromBytesCopy( nullptr, 1 ), path, "bytes || length == 0" );
     EXPECT_ABORT( koBufferCreateFromBytesCopy( nullptr, -1 ), path, "bytes || length == 0" );
     EXPECT_ABORT( koBufferCreateFromBytesCopy( "a", -2 ), path, "length >= -1" );
+    EXPECT_ABORT( ko___BufferCreateOfLength( -1 ), path, "length >= 0" );
     EXPECT_ABORT( koBufferLength( nullptr ), path, "b" );
     EXPECT_ABORT( koBufferBacking( nullptr ), path, "b" );
     EXPECT_ABORT( koBufferSpace( nullptr ), path, "b" );

@@ -202,6 +202,7 @@ TEST_F( KoFormat, UnknownDirectives )
         "%~",    "%~i",    "%~%",     "%~~s",  "%^",     "%^s",     "%^%",     "%02s", "%0i", // how many digits?
         "%!i",   "%!0i",   "%!1i",    "%!37i", "%!999i", "%!1602i", "%01000i",                // beyond what they may be
         "%02^i", "%!16^i", "%!1602i", "%0!2i",                                                // out of order
+        "%!",    "%!1",    "%02",     "%^0",                                                  // ends too early
     };
     const auto s = test::Str( "s" );
     for ( const char *const format : formats ) {

@@ -302,6 +302,7 @@ TEST_F( KoStringTest, Find )
     }
     const KoChar ended[] = { 'b', 'c', 0, 'd' };
     EXPECT_EQ( koStringFindChars( test::Str( "abcd" ).Get(), 0, ended, -1 ), 1 );
+    EXPECT_EQ( koStringFindChars( test::Str( "abcd" ).Get(), 2, nullptr, 0 ), 2 );
 }
 
 TEST_F( KoStringTest, FindAgreesWithTheStandardLibrary )
@@ -516,6 +517,18 @@ TEST_F( KoStringTest, AppendToAnEmptyStringDoesNotTie )
     EXPECT_EQ( test::Count( other.Get() ), 1 );
 }
 
+TEST_F( KoStringTest, AppendToAnEmptyStringOfOneHolderCopies )
+{
+    // It has room of its own, or was meant to get some.
+    const auto other = test::Str( "abc" );
+    auto s = KoRef<KoString>::Adopt( ko___StringCreateOfLength( 0 ) );
+    ASSERT_EQ( test::Count( s.Get() ), 1 );
+    koStringAppend( s.Address(), other.Get() );
+    EXPECT_NE( s.Get(), other.Get() );
+    EXPECT_EQ( test::Text( s ), "abc" );
+    EXPECT_EQ( test::Count( other.Get() ), 1 );
+}
+
 TEST_F( KoStringTest, AppendOfItself )
 {
     auto s = test::Str( "ab" );
@@ -634,6 +647,7 @@ TEST_F( KoStringTest, PreconditionsOfChanges )
     EXPECT_ABORT( koStringAppend( &handle, nullptr ), path, "other" );
     EXPECT_ABORT( koStringAppendChars( &handle, nullptr, -2 ), path, "chs || length == 0" );
     EXPECT_ABORT( koStringAppendChars( &handle, &ch, -2 ), path, "length >= -1" );
+    EXPECT_ABORT_MESSAGE( koStringAppendChars( &handle, &ch, INT64_MAX ), "out of memory", path, "block" );
     EXPECT_ABORT( koStringAppendCstr( &handle, nullptr, -2 ), path, "chs || length == 0" );
     EXPECT_ABORT( koStringAppendCstr( &handle, "", -2 ), path, "length >= -1" );
     EXPECT_ABORT( koStringDelimitedAppendCharDelimiter( &handle, nullptr, ',' ), path, "other" );

@@ -3,6 +3,24 @@
 
 #include <ctime>
 #include <random>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace {
+
+/** What the clock of this program shows while it is set; else it shows the time. */
+const timespec *pretended = nullptr;
+
+} // namespace
+
+extern "C" __attribute__( ( visibility( "default" ) ) ) int clock_gettime( clockid_t clock, timespec *now ) noexcept
+{
+    if ( pretended ) {
+        *now = *pretended;
+        return 0;
+    }
+    return static_cast<int>( syscall( SYS_clock_gettime, clock, now ) );
+}
 
 namespace {
 
@@ -190,6 +208,23 @@ TEST_F( TimeTest, NowIsNow )
     EXPECT_GE( seconds, earlier - 1 ) << "the two clocks may differ by a tick";
     EXPECT_LE( seconds, after + 1 );
     EXPECT_EQ( koTimeWeekday( now.Get() ), ( fields.tm_wday + 6 ) % 7 );
+}
+
+TEST_F( TimeTest, NowOnEachDayOfThisAge )
+{
+    std::mt19937 random( 6 );
+    for ( int64_t day = 0; day < 366 * 135; ++day ) {
+        const timespec instant = { .tv_sec = day * 86400 + static_cast<int64_t>( random() % 86400 ),
+                                   .tv_nsec = 999999999 };
+        pretended = &instant;
+        const auto now = Time::Adopt( koTimeNow() );
+        pretended = nullptr;
+        tm fields{};
+        gmtime_r( &instant.tv_sec, &fields );
+        const Time expected = Of( fields.tm_year + 1900, fields.tm_mon + 1, fields.tm_mday, fields.tm_hour,
+                                  fields.tm_min, fields.tm_sec );
+        ASSERT_EQ( koTimeCompare( now.Get(), expected.Get() ), 0 ) << asctime( &fields );
+    }
 }
 
 TEST_F( TimeTest, OrderIsFieldByField )

@@ -356,6 +356,11 @@ TEST_F( VectorTest, Preconditions )
     EXPECT_ABORT( koVectorInsertString( v, 3, nullptr ), path, place );
     EXPECT_ABORT( koVectorInsertString( v, -1, s ), path, place );
     EXPECT_ABORT( koVectorInsertString( v, 2, nullptr ), path, "s" );
+    EXPECT_ABORT( ko___VectorInsertTaken( nullptr, 0, koStringObj( s ) ), path, "v" );
+    EXPECT_ABORT( ko___VectorInsertTaken( &null, 0, koStringObj( s ) ), path, "*v" );
+    EXPECT_ABORT( ko___VectorInsertTaken( v, 3, nullptr ), path, place );
+    EXPECT_ABORT( ko___VectorInsertTaken( v, -1, koStringObj( s ) ), path, place );
+    EXPECT_ABORT( ko___VectorInsertTaken( v, 2, nullptr ), path, "taken" );
     EXPECT_ABORT( koVectorSetStringAt( nullptr, 0, s ), path, "v" );
     EXPECT_ABORT( koVectorSetStringAt( &null, 0, s ), path, "*v" );
     EXPECT_ABORT( koVectorSetStringAt( v, 2, nullptr ), path, insideOwn );

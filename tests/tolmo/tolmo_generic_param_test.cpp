@@ -393,11 +393,15 @@ TEST_F( GenericParam, Encode )
     EXPECT_ABORT( tolmo___GenericParamEncode( nullptr ), path, "param" );
 
     const Param param = Create( "a", token, "b" );
-    param.Get()->type = 3; // no operation stores such a type
-    EXPECT_ABORT_MESSAGE( tolmo___GenericParamEncode( param.Get() ), "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
-                          path, "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
-    EXPECT_ABORT_MESSAGE( tolmoGenericParamToString( param.Get() ), "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented",
-                          path, "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
+    for ( const KoInt type : { 3, -1 } ) { // no operation stores such a type
+        param.Get()->type = type;
+        EXPECT_ABORT_MESSAGE( tolmo___GenericParamEncode( param.Get() ),
+                              "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented", path,
+                              "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
+        EXPECT_ABORT_MESSAGE( tolmoGenericParamToString( param.Get() ),
+                              "TOLMO_GENERIC_PARAM_VALUE_TYPE not implemented", path,
+                              "TOLMO_GENERIC_PARAM_VALUE_TYPE_OK( param->type )" );
+    }
 }
 
 TEST_F( GenericParam, TryDecode )

@@ -54,6 +54,11 @@ TEST_F( ReasonPhrase, Encode )
         EXPECT_EQ( Encode( row.phrase ), row.wire );
         EXPECT_EQ( Decode( row.wire ), row.phrase );
     }
+    // A string may hold what is no code point. That goes through as well, and the encoder of the message replaces it.
+    const KoChar chs[] = { 'a', -1, INT32_MIN, 0x110000 };
+    const auto phrase = KoRef<KoString>::Adopt( koStringCreateFromCharsCopy( chs, std::size( chs ) ) );
+    const auto wire = KoRef<KoString>::Adopt( tolmo___ReasonPhraseEncode( phrase.Get() ) );
+    EXPECT_TRUE( koStringEquals( wire.Get(), phrase.Get() ) );
     EXPECT_ABORT( tolmo___ReasonPhraseEncode( nullptr ), path, "reasonPhrase" );
 }
 

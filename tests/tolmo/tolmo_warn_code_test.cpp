@@ -69,6 +69,7 @@ TEST_F( WarnCode, Decode )
     EXPECT_ABORT( Decode( "" ), path, "read && consumed == length" );
     EXPECT_ABORT( Decode( "39x" ), path, "read && consumed == length" );
     EXPECT_ABORT( Decode( "x" ), path, "read && consumed == length" );
+    EXPECT_ABORT( tolmo___WarnCodeDecode( nullptr, 0 ), path, "read && consumed == length" );
     EXPECT_ABORT( tolmo___WarnCodeDecode( nullptr, -1 ), path, "length >= 0" );
     EXPECT_ABORT( tolmo___WarnCodeDecode( nullptr, 1 ), path, "chs || length == 0" );
 }
