@@ -20,7 +20,7 @@ struct AsciiSet {
     alignas( 16 ) uint8_t high[16]{};
 
     /** Any character but NUL, which in a block stands for what is no character. */
-    consteval void Add( KoChar member )
+    constexpr void Add( KoChar member )
     {
         high[member & 0xF] = static_cast<uint8_t>( high[member & 0xF] | 1 << ( member >> 4 ) );
     }
