@@ -9,6 +9,7 @@
 #include <tolmo/tolmo.h>
 
 #include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -31,54 +32,48 @@ void *NewContext()
 template <class Handle>
 using Ref = KoRef<Handle>;
 
-/* The bytes of some characters of a string. */
-sview Bytes( Context *context, KoString s, KoInt begin, KoInt end )
+/* The bytes of a string that is handed over, if there is one and they find room. */
+std::string_view TakeText( Context *context, KoString fresh )
 {
+    const auto s = Ref<KoString>::Adopt( fresh );
+    if ( !s ) {
+        return {};
+    }
     char *const to = context->room + context->used;
     const KoInt room = static_cast<KoInt>( sizeof context->room - context->used );
-    const KoInt length = koCharsConvertToUtf8( to, room, koStringBacking( s ) + begin, end - begin, KO_FALSE );
+    const KoInt length =
+        koCharsConvertToUtf8( to, room, koStringBacking( s.Get() ), koStringLength( s.Get() ), KO_FALSE );
     if ( length > room ) {
-        return { nullptr, 0 };
+        return {};
     }
     context->used += static_cast<size_t>( length );
     return { to, static_cast<size_t>( length ) };
 }
 
+sview View( std::string_view text )
+{
+    return { text.data(), text.size() };
+}
+
 sview TakeBytes( Context *context, KoString fresh )
 {
-    const auto s = Ref<KoString>::Adopt( fresh );
-    return s ? Bytes( context, s.Get(), 0, koStringLength( s.Get() ) ) : sview{ nullptr, 0 };
+    return View( TakeText( context, fresh ) );
 }
 
 /* User and host of a SIP IRI: the library leaves these to the layers above. */
 void TakeUserAndHost( Context *context, KoString fresh, sview *user, sview *host )
 {
-    const auto iri = Ref<KoString>::Adopt( fresh );
-    const KoChar *const chs = koStringBacking( iri.Get() );
-    const KoInt length = koStringLength( iri.Get() );
-    KoInt begin = 0;
-    while ( begin < length && chs[begin] != ':' ) {
-        ++begin;
+    std::string_view text = TakeText( context, fresh );
+    text.remove_prefix( text.find( ':' ) + 1 );
+    if ( const size_t at = text.find( '@' ); at != text.npos ) {
+        *user = View( text.substr( 0, at ) );
+        text.remove_prefix( at + 1 );
     }
-    ++begin;
-    KoInt at = begin;
-    while ( at < length && chs[at] != '@' ) {
-        ++at;
+    const size_t behindLiteral = text.starts_with( '[' ) ? text.find( ']' ) : 0;
+    for ( const char mark : { ';', '?', ':' } ) {
+        text = text.substr( 0, text.find( mark, behindLiteral ) );
     }
-    if ( at < length ) {
-        *user = Bytes( context, iri.Get(), begin, at );
-        begin = at + 1;
-    }
-    KoInt end = begin;
-    if ( end < length && chs[end] == '[' ) {
-        while ( end < length && chs[end] != ']' ) {
-            ++end;
-        }
-    }
-    while ( end < length && chs[end] != ':' && chs[end] != ';' && chs[end] != '?' ) {
-        ++end;
-    }
-    *host = Bytes( context, iri.Get(), begin, end );
+    *host = View( text );
 }
 
 Ref<TolmoMessage> Decode( const char *bytes, size_t length )
