@@ -72,7 +72,7 @@ inline KoInt RunOf( const AsciiSet &set, const KoChar *chs, KoInt length )
 
 /** The ASCII characters for which `Ends` is false, but NUL. */
 template <bool Ends( KoChar )>
-consteval AsciiSet SetOfOthers()
+constexpr AsciiSet SetOfOthers()
 {
     AsciiSet set;
     for ( KoChar ch = 1; ch < 0x80; ++ch ) {

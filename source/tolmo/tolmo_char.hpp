@@ -69,7 +69,7 @@ inline bool Is( KoChar ch, uint32_t classes )
     return static_cast<uint32_t>( ch ) < charTable.size() && ( charTable[static_cast<size_t>( ch )] & classes ) != 0;
 }
 
-consteval ko::AsciiSet MakeSet( uint32_t classes )
+constexpr ko::AsciiSet MakeSet( uint32_t classes )
 {
     ko::AsciiSet set;
     for ( size_t ch = 0; ch < charTable.size(); ++ch ) {
