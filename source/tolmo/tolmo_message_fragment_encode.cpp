@@ -62,23 +62,42 @@ private:
 };
 static_assert( sizeof( WireName ) == Writer::slack );
 
+/** A number that is not negative, in decimal. */
+class Decimal {
+public:
+    explicit Decimal( KoInt number )
+    {
+        do {
+            digits[--first] = static_cast<char>( '0' + number % 10 );
+            number /= 10;
+        } while ( number > 0 );
+    }
+
+    template <class Output>
+    void WriteTo( Output &output ) const
+    {
+        output.Write( digits + first, static_cast<KoInt>( std::size( digits ) ) - first );
+    }
+
+private:
+    char digits[19]; // NOLINT: from `first` on
+    KoInt first = std::size( digits );
+};
+
 /** What the pieces of an encoded fragment are made of, made once and written twice: to be counted, and to be kept. */
 class Pieces {
 public:
-    explicit Pieces( TolmoMessageFragment encoded ) : frag( encoded )
+    explicit Pieces( TolmoMessageFragment encoded )
+        : frag( encoded ), bodyLength( encoded->body ? encoded->body->length : 0 )
     {
         if ( tolmoMessageFragmentIsRequest( frag ) ) {
             uri = Adopt( ulmTryConvertToUri( frag->requestIri ) );
             KO_REQUIRE_AS( uri, "uri" ); // an IRI that a fragment holds has a URI form
         } else if ( tolmoMessageFragmentIsResponse( frag ) ) {
-            code = Adopt( koFormatEncodeInt( frag->responseStatusCode, 10, 3, 2 ) );
             phrase = Adopt( tolmo___ReasonPhraseEncode( frag->responseReasonPhrase ) );
         }
         if ( frag->version ) {
             version = Adopt( tolmo___VersionEncode( frag->version ) );
-        }
-        if ( frag->body && frag->body->length > 0 ) {
-            bodyLength = Adopt( koFormatEncodeInt( frag->body->length, 10, 0, 0 ) );
         }
     }
 
@@ -122,7 +141,7 @@ private:
         } else if ( phrase ) {
             output.Write( version.Get() );
             output.Write( " ", 1 );
-            output.Write( code.Get() );
+            Decimal( frag->responseStatusCode ).WriteTo( output ); // it has three digits
             output.Write( " ", 1 );
             output.Write( phrase.Get() );
             output.Write( "\r\n", 2 );
@@ -134,11 +153,7 @@ private:
     void WriteContentLength( Output &output ) const
     {
         output.Write( "Content-Length: ", 16 );
-        if ( bodyLength ) {
-            output.Write( bodyLength.Get() );
-        } else {
-            output.Write( "0", 1 );
-        }
+        bodyLength.WriteTo( output );
         output.Write( "\r\n", 2 );
     }
 
@@ -171,11 +186,10 @@ private:
     }
 
     TolmoMessageFragment frag;
-    KoRef<KoString> uri;  // of a request
-    KoRef<KoString> code; // of a response
-    KoRef<KoString> phrase;
+    Decimal bodyLength;
+    KoRef<KoString> uri;    // of a request
+    KoRef<KoString> phrase; // of a response
     KoRef<KoString> version;
-    KoRef<KoString> bodyLength; // where it is not 0
 };
 
 } // namespace
