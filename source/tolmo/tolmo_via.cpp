@@ -112,7 +112,7 @@ TolmoVia tolmoViaCreate( TolmoVersion version, KoString transport, KoString host
     KO_REQUIRE( version );
     KO_REQUIRE( tolmoTransportOk( transport ) );
     KO_REQUIRE( tolmoHostOk( host ) );
-    auto normal = tolmo::Adopt( tolmoTransportNormalize( transport ) );
+    auto normal = tolmo::Adopt( tolmo::Lowered( transport ) );
     return Create( tolmo::Share( version ), std::move( normal ), tolmo::Share( host ) ).Leak();
 }
 
@@ -122,7 +122,7 @@ TolmoVia tolmoViaCreateWithPort( TolmoVersion version, KoString transport, KoStr
     KO_REQUIRE( tolmoTransportOk( transport ) );
     KO_REQUIRE( tolmoHostOk( host ) );
     KO_REQUIRE( tolmoPortOk( port ) );
-    auto normal = tolmo::Adopt( tolmoTransportNormalize( transport ) );
+    auto normal = tolmo::Adopt( tolmo::Lowered( transport ) );
     auto via = Create( tolmo::Share( version ), std::move( normal ), tolmo::Share( host ) );
     via.Get()->port = port;
     return via.Leak();
@@ -153,7 +153,7 @@ void tolmoViaSetTransport( TolmoVia *via, KoString transport )
     KO_REQUIRE_HANDLE( via );
     KO_REQUIRE( tolmoTransportOk( transport ) );
     tolmo::MakeUnique( via, tolmoViaCreateFrom );
-    tolmo::Store( ( *via )->transport, tolmo::Adopt( tolmoTransportNormalize( transport ) ) );
+    tolmo::Store( ( *via )->transport, tolmo::Adopt( tolmo::Lowered( transport ) ) );
 }
 
 KoString tolmoViaHost( TolmoVia via )
