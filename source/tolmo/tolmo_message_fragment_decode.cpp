@@ -165,7 +165,7 @@ bool IsUtf8( const uint8_t *bytes, KoInt length )
 
 bool IsLws( uint8_t byte )
 {
-    return byte == ' ' || byte == '\t';
+    return byte <= ' ' && ( byte == ' ' || byte == '\t' ); // most bytes are told by the first test
 }
 
 bool IsToken( const uint8_t *bytes, KoInt length )
