@@ -54,6 +54,8 @@ def read(library, calls, names, exported):
                 calls[here].add(match[3].removesuffix('@plt'))
             elif '+0x' not in match[3] and not (match[1] != 'call' and target == here):
                 calls[here].add(target)
+        elif match := re.search(r'\t(?:bnd |notrack )?(?:call|jmp) +\*.*# [0-9a-f]+ <([^>@+]+)@', line):
+            calls[here].add(match[1])  # another library's function, through its slot in the global offset table
         elif re.search(r'\t(?:bnd |notrack )?call +\*', line):
             through_pointer.add(here)
         elif match := re.search(r'\tlea .*# ([0-9a-f]+) <([^>+]+)>', line):
