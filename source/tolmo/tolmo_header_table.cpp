@@ -177,12 +177,9 @@ KoRef<HeaderTable *> CreateHeaderTable( KoInt capacity, KoRef<DecodedHead *> dec
     const auto size =
         static_cast<KoInt>( sizeof( HeaderTable ) + static_cast<size_t>( capacity ) * sizeof( HeaderEntry ) );
     auto *const table = reinterpret_cast<HeaderTable *>( ko___ObjCreateUncleared( size, &headerTableSort ) );
+    memset( static_cast<void *>( &table->head + 1 ), 0, sizeof *table - sizeof table->head );
     table->decoded = decoded.Leak();
-    table->count = 0;
-    table->deleted = 0;
     table->capacity = capacity;
-    table->index = {};
-    memset( table->known, 0, sizeof table->known );
     return Adopt( table );
 }
 

@@ -369,7 +369,7 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     if ( length > 0 ) {
         memcpy( head->Text(), bytes, static_cast<size_t>( length ) );
     }
-    auto frag = CreateFragment( CreateHeaderTable( koIntMin( ends.Lines() + 2, 40 ), std::move( decoded ) ) );
+    auto frag = CreateFragment( CreateHeaderTable( std::min<KoInt>( ends.Lines() + 2, 40 ), std::move( decoded ) ) );
     const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
     switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {

@@ -76,12 +76,14 @@ public:
     template <class Output>
     void WriteTo( Output &output ) const
     {
-        output.Write( digits + first, static_cast<KoInt>( std::size( digits ) ) - first );
+        output.Write( digits + first, most - first );
     }
 
 private:
-    char digits[19]; // NOLINT: from `first` on
-    KoInt first = std::size( digits );
+    static constexpr KoInt most = 19;
+
+    char digits[most]; // NOLINT: from `first` on
+    KoInt first = most;
 };
 
 /** What the pieces of an encoded fragment are made of, made once and written twice: to be counted, and to be kept. */

@@ -139,6 +139,19 @@ KoString tolmo___VersionEncode( TolmoVersion version )
 }
 
 // SIP-Version = protocol-name SLASH protocol-version
+[[gnu::noinline]] static KoRef<TolmoVersion> TakeAnyVersion( tolmo::Walk &w )
+{
+    if ( !w.Need( skip::ProtocolName ) ) {
+        return {};
+    }
+    const tolmo::Text name = w.Last();
+    if ( !w.Need( skip::Slash ) || !w.Need( skip::ProtocolVersion ) ) {
+        return {};
+    }
+    const tolmo::Text number = w.Last();
+    return tolmo::Adopt( tolmoVersionCreate( name.Copy().Get(), number.Copy().Get() ) );
+}
+
 KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
 {
     // What nearly every text holds needs neither a close look nor a new object.
@@ -149,15 +162,7 @@ KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
         w.Take( length );
         return Share( sip20 );
     }
-    if ( !w.Need( skip::ProtocolName ) ) {
-        return {};
-    }
-    const Text name = w.Last();
-    if ( !w.Need( skip::Slash ) || !w.Need( skip::ProtocolVersion ) ) {
-        return {};
-    }
-    const Text number = w.Last();
-    return Adopt( tolmoVersionCreate( name.Copy().Get(), number.Copy().Get() ) );
+    return TakeAnyVersion( w );
 }
 
 TolmoVersion tolmo___VersionTryDecode( const KoChar *chs, KoInt length )
