@@ -25,7 +25,9 @@ struct Text {
 
     [[nodiscard]] KoRef<KoString> Copy() const
     {
-        return KoRef<KoString>::Adopt( koStringCreateFromCharsCopy( chs, length ) );
+        auto copy = KoRef<KoString>::Adopt( ko___StringCreateOfLength( length ) );
+        ko::CopyChars( ko::Chars( copy.Get() ), chs, length );
+        return copy;
     }
 
     /** A copy in small letters, of ASCII text. */
