@@ -63,7 +63,7 @@ KO_API KoInt ulm___SkipPort( const KoChar *chs, KoInt length );
 /**
  * True when a string is a resource identifier: ulm___SkipIri takes it whole, and it is not empty.
  *
- * @param part 0, the whole identifier; nothing else is known.
+ * @param part Which piece is meant: 0 is the whole identifier, and nothing else is known.
  * @param iri shared, the caller keeps its reference.
  * @pre part == 0
  * @pre iri
