@@ -47,24 +47,34 @@ inline KoInt AsciiLength( const uint8_t *bytes, KoInt length )
     return i;
 }
 
+#if defined( __SSE2__ )
+/** Widens 16 bytes to characters, if all of them are ASCII; otherwise returns false. */
+inline bool WidenSixteen( KoChar *to, const uint8_t *from )
+{
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from ) );
+    if ( _mm_movemask_epi8( block ) ) {
+        return false;
+    }
+    const __m128i low = _mm_unpacklo_epi8( block, zero );
+    const __m128i high = _mm_unpackhi_epi8( block, zero );
+    auto *const out = reinterpret_cast<__m128i *>( to );
+    _mm_storeu_si128( out, _mm_unpacklo_epi16( low, zero ) );
+    _mm_storeu_si128( out + 1, _mm_unpackhi_epi16( low, zero ) );
+    _mm_storeu_si128( out + 2, _mm_unpacklo_epi16( high, zero ) );
+    _mm_storeu_si128( out + 3, _mm_unpackhi_epi16( high, zero ) );
+    return true;
+}
+#endif
+
 /** Widens bytes to characters up to the first that is not ASCII, and returns how many. */
 inline KoInt WidenAscii( KoChar *to, const uint8_t *from, KoInt length )
 {
     KoInt i = 0;
 #if defined( __SSE2__ )
     const __m128i zero = _mm_setzero_si128();
-    for ( ; length - i >= 16; i += 16 ) {
-        const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from + i ) );
-        if ( _mm_movemask_epi8( block ) ) {
-            break;
-        }
-        const __m128i low = _mm_unpacklo_epi8( block, zero );
-        const __m128i high = _mm_unpackhi_epi8( block, zero );
-        auto *const out = reinterpret_cast<__m128i *>( to + i );
-        _mm_storeu_si128( out, _mm_unpacklo_epi16( low, zero ) );
-        _mm_storeu_si128( out + 1, _mm_unpackhi_epi16( low, zero ) );
-        _mm_storeu_si128( out + 2, _mm_unpacklo_epi16( high, zero ) );
-        _mm_storeu_si128( out + 3, _mm_unpackhi_epi16( high, zero ) );
+    while ( length - i >= 16 && WidenSixteen( to + i, from + i ) ) {
+        i += 16;
     }
     for ( ; length - i >= 4; i += 4 ) {
         int four = 0;

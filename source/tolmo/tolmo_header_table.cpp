@@ -15,7 +15,7 @@ namespace {
 
 // What RecognizeName, the search for a colon, and copies in blocks may read behind a piece of the text.
 constexpr KoInt padding = 32;
-static_assert( padding >= longestKnownName );
+static_assert( padding >= longestKnownName && padding >= wideStep );
 
 constexpr ko___Sort decodedHeadSort = TOLMO_SORT( "TOLMO_DECODED_HEAD", nullptr, nullptr, nullptr );
 

@@ -372,7 +372,7 @@ KoRef<TolmoMessageFragment> Decode( const uint8_t *bytes, KoInt length, const Li
     auto frag = CreateFragment( CreateHeaderTable( std::min<KoInt>( ends.Lines() + 2, 40 ), std::move( decoded ) ) );
     const KoInt lineEnd = ends.EndOf( 0, bytes, 0, length );
     KoInt headers = 0;
-    switch ( DecodeStartLine( frag.Get(), Wide( bytes, lineEnd ).Text() ) ) {
+    switch ( DecodeStartLine( frag.Get(), Wide( head->Text(), lineEnd ).Text() ) ) {
     case StartLine::bad:
         return {};
     case StartLine::good:

@@ -19,16 +19,19 @@ inline KoInt Widen( KoChar *to, const uint8_t *bytes, KoInt length )
     return count;
 }
 
-/** Characters for a while: short ones need no block. */
+/** What is read at a time: so many bytes behind a piece that becomes a Wide must be readable, whatever they are. */
+inline constexpr KoInt wideStep = 16;
+
+/** Characters for a while, of a piece of a decoded head: short ones need no block. */
 class Wide {
 public:
     Wide( const uint8_t *bytes, KoInt length )
     {
         KoChar *chs = here;
-        if ( length > static_cast<KoInt>( std::size( here ) ) ) {
-            chs = block = static_cast<KoChar *>( koMemAllocN( length, sizeof( KoChar ) ) );
+        if ( length > mostHere ) {
+            chs = block = static_cast<KoChar *>( koMemAllocN( length + wideStep, sizeof( KoChar ) ) );
         }
-        text = { chs, Widen( chs, bytes, length ) };
+        text = { chs, WidenBlocks( chs, bytes, length ) };
     }
     Wide( const Wide & ) = delete;
     Wide &operator=( const Wide & ) = delete;
@@ -42,12 +45,29 @@ public:
     [[nodiscard]] tolmo::Text Text() const { return text; }
 
 private:
-    KoChar here[256];
+    /** Widen, in whole blocks as long as they are ASCII: the last one needs no steps of its own. */
+    static KoInt WidenBlocks( KoChar *to, const uint8_t *bytes, KoInt length )
+    {
+#if defined( __SSE2__ )
+        KoInt i = 0;
+        while ( i < length && ko::WidenSixteen( to + i, bytes + i ) ) {
+            i += wideStep;
+        }
+        if ( i >= length ) {
+            return length;
+        }
+#endif
+        return Widen( to, bytes, length );
+    }
+
+    static constexpr KoInt mostHere = 256;
+
+    KoChar here[mostHere + wideStep];
     KoChar *block = nullptr;
     tolmo::Text text;
 };
 
-/** A new string of good UTF-8. */
+/** A new string of a piece of a decoded head. */
 inline KoRef<KoString> WideString( const uint8_t *bytes, KoInt length )
 {
     if ( ko::AsciiLength( bytes, length ) < length ) {
