@@ -132,14 +132,13 @@ consteval Slots MakeSlots()
 constexpr Slots slots = MakeSlots();
 static_assert( knownNameCount < UINT8_MAX );
 
-/** Recognises a name that ends in the first `count` words. */
-template <size_t count>
-NameId RecognizeWords( const uint8_t *bytes, KoInt length )
+/** Recognises a name that is no compact form. */
+NameId RecognizeLong( const uint8_t *bytes, KoInt length )
 {
     Words raw;
-    memcpy( &raw, bytes, count * sizeof raw.word[0] );
-    Words small{};
-    for ( size_t i = 0; i < count; ++i ) {
+    memcpy( &raw, bytes, sizeof raw );
+    Words small;
+    for ( size_t i = 0; i < words; ++i ) {
         small.word[i] = ( raw.word[i] | smallLetters ) & masks[static_cast<size_t>( length )].word[i];
     }
     const size_t id = slots.id[SlotOf( small, slots.factor )];
@@ -147,7 +146,7 @@ NameId RecognizeWords( const uint8_t *bytes, KoInt length )
         return unknownName;
     }
     uint64_t difference = 0;
-    for ( size_t i = 0; i < count; ++i ) {
+    for ( size_t i = 0; i < words; ++i ) {
         difference |= small.word[i] ^ knownWords[id].small.word[i];
         difference |= knownWords[id].hyphens.word[i] & ~raw.word[i];
     }
@@ -166,13 +165,7 @@ NameId RecognizeName( const uint8_t *bytes, KoInt length )
     if ( length <= 1 ) {
         return length == 1 ? FindCompact( bytes[0] ) : unknownName;
     }
-    if ( length > longestKnownName ) {
-        return unknownName;
-    }
-    // Most names end within the first word or two, and then so does the name that they are compared with.
-    return length < 8    ? RecognizeWords<1>( bytes, length )
-           : length < 16 ? RecognizeWords<2>( bytes, length )
-                         : RecognizeWords<words>( bytes, length );
+    return length <= longestKnownName ? RecognizeLong( bytes, length ) : unknownName;
 }
 
 NameId RecognizeName( const KoChar *chs, KoInt length )

@@ -90,12 +90,26 @@ inline KoInt SwsChar( const KoChar *chs, KoInt length, KoChar ch )
     return w.Taken( w.Maybe( Sws ) && w.Need( Char, ch ) );
 }
 
-// SWS ch SWS
-inline KoInt SwsCharSws( const KoChar *chs, KoInt length, KoChar ch )
+/** SwsCharSws where there is whitespace. */
+[[gnu::noinline]] inline KoInt SpacedChar( const KoChar *chs, KoInt length, KoChar ch )
 {
     const KoInt before = Sws( chs, length );
     const KoInt taken = before + Char( chs + before, length - before, ch );
     return taken > before ? taken + Sws( chs + taken, length - taken ) : 0;
+}
+
+// SWS ch SWS
+[[gnu::always_inline]] inline KoInt SwsCharSws( const KoChar *chs, KoInt length, KoChar ch )
+{
+    if ( length > 0 && chs[0] > ' ' ) { // most often there is no whitespace
+        if ( chs[0] != ch ) {
+            return 0;
+        }
+        if ( length == 1 || chs[1] > ' ' ) {
+            return 1;
+        }
+    }
+    return SpacedChar( chs, length, ch );
 }
 
 inline KoInt Chars( const KoChar *chs, KoInt length, const KoChar *skipChs, KoInt skipLength )
