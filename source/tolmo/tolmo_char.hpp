@@ -31,6 +31,7 @@ enum CharClass : uint32_t {
     charPasswordUnreserved = 1u << 13, // what a password may hold besides the unreserved
     charParamUnreserved = 1u << 14,    // the same for the value of a URI parameter
     charSessUuid = 1u << 15,
+    charHostname = 1u << 16,
 };
 
 consteval std::array<uint32_t, 128> MakeCharTable()
@@ -41,7 +42,7 @@ consteval std::array<uint32_t, 128> MakeCharTable()
             table[static_cast<size_t>( ch )] |= classes;
         }
     };
-    constexpr uint32_t allAlphanum = charToken | charTokenNodot | charWord | charParamChar;
+    constexpr uint32_t allAlphanum = charToken | charTokenNodot | charWord | charParamChar | charHostname;
     add( allAlphanum | charAlpha, "ABCDEFGHIJKLMNOPQRSTUVWXYZ" );
     add( allAlphanum | charAlpha | charSessUuid, "abcdefghijklmnopqrstuvwxyz" );
     add( allAlphanum | charDigit | charSessUuid, "0123456789" );
@@ -58,6 +59,7 @@ consteval std::array<uint32_t, 128> MakeCharTable()
     add( charSeparator, "\t \"(),/:;<=>?@[\\]{}" );
     add( charPasswordUnreserved, "&=+$," );
     add( charParamUnreserved, "[]/:&+$" );
+    add( charHostname, "-." );
     return table;
 }
 

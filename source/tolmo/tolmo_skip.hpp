@@ -310,7 +310,7 @@ inline constexpr auto Uri = Iri;
 
 /** Domain labels: one, or with `dotted` as many as there are, with dots between them and perhaps one at the end. */
 template <bool dotted>
-inline KoInt Labels( const KoChar *chs, KoInt length )
+[[gnu::noinline]] inline KoInt Labels( const KoChar *chs, KoInt length )
 {
     KoInt taken = 0; // not the hyphens at the end of a label
     for ( KoInt at = 0, label = 0; at < length; ) {
@@ -336,8 +336,27 @@ inline KoInt Labels( const KoChar *chs, KoInt length )
 // domainlabel = ( alphanum / escape ) *( alphanum / escape / "-" ), without the hyphens at its end
 inline constexpr auto DomainLabel = Labels<false>;
 
+/** True for a dot and a hyphen among the characters of a hostname. */
+constexpr bool SeparatesLabels( KoChar ch )
+{
+    return ch < '0';
+}
+
 // hostname = domainlabel *( "." domainlabel ) [ "." ]
-inline constexpr auto Hostname = Labels<true>;
+// Most often it is one run, without escapes, and no two of its dots and hyphens are neighbours.
+inline KoInt Hostname( const KoChar *chs, KoInt length )
+{
+    const KoInt run = Run<charHostname>( chs, length );
+    if ( run == 0 || SeparatesLabels( chs[0] ) || chs[run - 1] == '-' || ( run < length && chs[run] == '%' ) ) {
+        return Labels<true>( chs, length );
+    }
+    for ( KoInt i = 1; i < run; ++i ) {
+        if ( SeparatesLabels( chs[i - 1] > chs[i] ? chs[i - 1] : chs[i] ) ) {
+            return Labels<true>( chs, length );
+        }
+    }
+    return run;
+}
 
 // IPv6reference = "[" IPv6address "]"
 inline KoInt IpV6Reference( const KoChar *chs, KoInt length )
@@ -637,10 +656,22 @@ inline KoInt GenericParams( const KoChar *chs, KoInt length )
 
 /* Values of headers. */
 
+/** SIP/2.0, exactly, and no token that goes on. */
+inline KoInt Sip20( const KoChar *chs, KoInt length )
+{
+    static constexpr KoChar sip20[] = { 'S', 'I', 'P', '/', '2', '.', '0' };
+    constexpr KoInt count = std::size( sip20 );
+    const KoInt taken = Chars( chs, length, sip20, count );
+    return taken == length || !Is( chs[taken], charToken ) ? taken : 0;
+}
+
 // version = token SLASH token
 inline KoInt Version( const KoChar *chs, KoInt length )
 {
     Walk w( chs, length );
+    if ( w.Need( Sip20 ) ) { // nearly always
+        return w.Taken();
+    }
     return w.Taken( w.Need( ProtocolName ) && w.Need( Slash ) && w.Need( ProtocolVersion ) );
 }
 

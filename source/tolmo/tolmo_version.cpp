@@ -39,7 +39,6 @@ namespace {
 
 constexpr KoChar sip[] = { 'S', 'I', 'P' };
 constexpr KoChar twoZero[] = { '2', '.', '0' };
-constexpr KoChar sipTwoZero[] = { 'S', 'I', 'P', '/', '2', '.', '0' };
 
 KoString kosSip = nullptr;
 KoString kosTwoZero = nullptr;
@@ -155,14 +154,7 @@ KoString tolmo___VersionEncode( TolmoVersion version )
 KoRef<TolmoVersion> tolmo::TakeVersion( Walk &w )
 {
     // What nearly every text holds needs neither a close look nor a new object.
-    const Text rest = w.Rest();
-    constexpr KoInt length = std::size( sipTwoZero );
-    if ( skip::Chars( rest.chs, rest.length, sipTwoZero, length ) &&
-         ( rest.length == length || !Is( rest.chs[length], charToken ) ) ) {
-        w.Take( length );
-        return Share( sip20 );
-    }
-    return TakeAnyVersion( w );
+    return w.Need( skip::Sip20 ) ? Share( sip20 ) : TakeAnyVersion( w );
 }
 
 TolmoVersion tolmo___VersionTryDecode( const KoChar *chs, KoInt length )
