@@ -31,19 +31,22 @@ struct AsciiSet {
     }
 
 #if defined( __SSSE3__ )
-    /** A bit for each of eight characters that is no member, and all bits above. */
-    [[nodiscard]] unsigned OthersOfEight( const KoChar *chs ) const
+    /** A bit for each of 8 or 16 characters that is no member, and all bits above. */
+    template <int count>
+    [[nodiscard]] unsigned Others( const KoChar *chs ) const
     {
-        const auto *const in = reinterpret_cast<const __m128i *>( chs );
-        const __m128i halves = _mm_packs_epi32( _mm_loadu_si128( in ), _mm_loadu_si128( in + 1 ) );
+        const auto eight = [in = reinterpret_cast<const __m128i *>( chs )]( int at ) {
+            return _mm_packs_epi32( _mm_loadu_si128( in + at ), _mm_loadu_si128( in + at + 1 ) );
+        };
         // What is no ASCII character comes out as 0, or with its top bit, for which a shuffle gives 0.
-        const __m128i codes = _mm_packus_epi16( halves, _mm_setzero_si128() );
+        const __m128i codes = _mm_packus_epi16( eight( 0 ), count == 16 ? eight( 2 ) : _mm_setzero_si128() );
         const __m128i highs = _mm_and_si128( _mm_srli_epi16( codes, 4 ), _mm_set1_epi8( 0xF ) );
         const __m128i bits = _mm_setr_epi8( 1, 2, 4, 8, 16, 32, 64, -128, 0, 0, 0, 0, 0, 0, 0, 0 );
         const __m128i found =
             _mm_and_si128( _mm_shuffle_epi8( _mm_load_si128( reinterpret_cast<const __m128i *>( high ) ), codes ),
                            _mm_shuffle_epi8( bits, highs ) );
-        return static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( found, _mm_setzero_si128() ) ) );
+        return static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( found, _mm_setzero_si128() ) ) ) |
+               ~0U << count;
     }
 #endif
 };
@@ -53,15 +56,19 @@ inline KoInt RunOf( const AsciiSet &set, const KoChar *chs, KoInt length )
 {
     KoInt taken = 0;
 #if defined( __SSSE3__ )
-    for ( ; length - taken >= 8; taken += 8 ) {
-        if ( const unsigned others = set.OthersOfEight( chs + taken ) & 0xFF ) {
+    constexpr unsigned sixteen = 0xFFFF;
+    for ( ; length - taken >= 16; taken += 16 ) {
+        if ( const unsigned others = set.Others<16>( chs + taken ); ( others & sixteen ) != 0 ) {
             return taken + std::countr_zero( others );
         }
     }
+    // At the end as many once more, of which the first are known.
     if ( taken > 0 ) {
-        // The last eight characters once more, of which the first are known. All bits above eight are set.
-        const KoInt left = length - taken;
-        return taken + std::countr_zero( set.OthersOfEight( chs + length - 8 ) >> ( 8 - left ) );
+        return taken + std::countr_zero( set.Others<16>( chs + length - 16 ) >> ( 16 - ( length - taken ) ) );
+    }
+    if ( length >= 8 ) {
+        const int first = std::countr_zero( set.Others<8>( chs ) );
+        return first < 8 ? first : 8 + std::countr_zero( set.Others<8>( chs + length - 8 ) >> ( 16 - length ) );
     }
 #endif
     while ( taken < length && set.Has( chs[taken] ) ) {
