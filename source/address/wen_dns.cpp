@@ -284,15 +284,19 @@ private:
     }
 };
 
-/** True when a text has an `xn--` label. */
+/** True when an `xn--` label begins at a place. */
+bool BeginsEncodedLabel( const KoChar *chs, KoInt length, KoInt at )
+{
+    return HasPrefix( chs + at, length - at ) && ( at == 0 || chs[at - 1] == '.' );
+}
+
+/** True when a text has an `xn--` label. One of the two hyphens has an odd place, so that no others are looked at. */
 bool HasEncodedLabel( const KoChar *chs, KoInt length )
 {
-    bool begin = true;
-    for ( KoInt i = 0; i < length; ++i ) {
-        if ( begin && HasPrefix( chs + i, length - i ) ) {
+    for ( KoInt i = 3; i < length; i += 2 ) {
+        if ( chs[i] == '-' && ( BeginsEncodedLabel( chs, length, i - 3 ) || BeginsEncodedLabel( chs, length, i - 2 ) ) ) {
             return true;
         }
-        begin = chs[i] == '.';
     }
     return false;
 }

@@ -2,6 +2,8 @@
 #include <tolmo/tolmo_address.hpp>
 
 #include <tolmo/tolmo_display_name.h>
+#include <tolmo/tolmo_quotable_string.hpp>
+#include <tolmo/tolmo_text.hpp>
 
 namespace tolmo {
 
@@ -18,8 +20,9 @@ void TakeDisplayName( Walk &w, Address &address )
         return;
     }
     w.Return( behind );
-    // What the skip function took, decodes: both follow the same two rules.
-    address.displayName = Adopt( tolmo___DisplayNameTryDecode( name.chs, name.length ) );
+    // Tokens begin without whitespace, and with something else than a quote.
+    const bool quoted = name.chs[skip::Sws( name.chs, name.length )] == '"';
+    address.displayName = quoted ? DecodeQuoted( name ) : Adopt( TryJoinWords( name, skip::Token ) );
 }
 
 bool TakeIri( Walk &w, Address &address, Extent extent )

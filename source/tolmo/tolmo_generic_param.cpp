@@ -3,8 +3,10 @@
 
 #include <tolmo/tolmo_cstr.hpp>
 #include <tolmo/tolmo_host.h>
+#include <tolmo/tolmo_host.hpp>
 #include <tolmo/tolmo_params.hpp>
 #include <tolmo/tolmo_quotable_string.h>
+#include <tolmo/tolmo_quotable_string.hpp>
 #include <tolmo/tolmo_token.h>
 
 namespace skip = tolmo::skip;
@@ -224,10 +226,10 @@ KoRef<TolmoGenericParam> tolmo::TakeGenericParam( Walk &w )
     KoInt type = TOLMO_GENERIC_PARAM_VALUE_TYPE_HOST;
     KoRef<KoString> value;
     if ( w.Need( skip::Host ) ) {
-        value = Adopt( tolmo___HostTryDecode( w.Last().chs, w.Last().length ) );
+        value = DecodeHost( w.Last() );
     } else if ( w.Need( skip::QuotedString ) ) {
         type = TOLMO_GENERIC_PARAM_VALUE_TYPE_QUOTABLE_STRING;
-        value = Adopt( tolmo___QuotableStringTryDecode( w.Last().chs, w.Last().length ) );
+        value = DecodeQuoted( w.Last() );
     }
     if ( !value ) {
         w.Return( place );

@@ -1,6 +1,7 @@
 /* Texts that go out as a quoted string (RFC 3261 section 25.1). */
 #include <tolmo/tolmo_quotable_string.h>
 
+#include <tolmo/tolmo_quotable_string.hpp>
 #include <tolmo/tolmo_scalar.hpp>
 
 namespace {
@@ -58,21 +59,25 @@ KoString tolmo___QuotableStringEncode( KoString quotableString )
     return quoted;
 }
 
+KoRef<KoString> tolmo::DecodeQuoted( Text quoted )
+{
+    const KoInt first = skip::Sws( quoted.chs, quoted.length ) + 1;
+    const KoInt last = quoted.length - 1;
+    auto text = Adopt( ko___StringCreateOfLength( last - first ) );
+    KoChar *const begin = ko::Chars( text.Get() );
+    KoChar *to = begin;
+    for ( KoInt i = first; i < last; ++i ) {
+        i += quoted.chs[i] == '\\';
+        *to++ = quoted.chs[i];
+    }
+    text.Get()->length = to - begin;
+    return text;
+}
+
 KoString tolmo___QuotableStringTryDecode( const KoChar *chs, KoInt length )
 {
     KO_REQUIRE( length >= 0 );
     KO_REQUIRE( chs || length == 0 );
-    if ( !tolmo::IsWhole( tolmo::Text( chs, length ), tolmo::skip::QuotedString ) ) {
-        return nullptr;
-    }
-    const KoInt first = tolmo::skip::Sws( chs, length ) + 1;
-    const KoString text = ko___StringCreateOfLength( length - 1 - first );
-    KoChar *const begin = ko::Chars( text );
-    KoChar *to = begin;
-    for ( KoInt i = first; i < length - 1; ++i ) {
-        i += chs[i] == '\\';
-        *to++ = chs[i];
-    }
-    text->length = to - begin;
-    return text;
+    const tolmo::Text text( chs, length );
+    return tolmo::IsWhole( text, tolmo::skip::QuotedString ) ? tolmo::DecodeQuoted( text ).Leak() : nullptr;
 }

@@ -3,6 +3,7 @@
 
 #include <tolmo/tolmo_params.hpp>
 #include <tolmo/tolmo_quotable_string.h>
+#include <tolmo/tolmo_quotable_string.hpp>
 #include <tolmo/tolmo_reason_cause.h>
 #include <tolmo/tolmo_reason_protocol.h>
 #include <tolmo/tolmo_reason_text.h>
@@ -161,8 +162,7 @@ bool TakeParam( tolmo::Walk &w, TolmoReason reason )
                               [=]( tolmo::Text value ) { return tolmo::StoreText( reason->cause, value ); } ) ||
            tolmo::TakeLifted( w, "text", skip::ReasonText,
                               [=]( tolmo::Text value ) {
-                                  return tolmo::StoreGood( reason->text, tolmo::Adopt( tolmo___QuotableStringTryDecode(
-                                                                             value.chs, value.length ) ) );
+                                  return tolmo::StoreGood( reason->text, tolmo::DecodeQuoted( value ) );
                               } ) ||
            tolmo::TakeGeneric( w, reason->genericParams );
 }

@@ -17,6 +17,8 @@
 
 #include <identifier/ulm.h>
 
+#include <algorithm>
+
 namespace tolmo::skip {
 
 /* Runs of characters. */
@@ -135,9 +137,12 @@ inline KoInt AsciiCaseFold( const KoChar *chs, KoInt length, const Unit *fixed, 
 
 inline constexpr auto CharsAsciiCaseFold = AsciiCaseFold<KoChar>;
 
-/** CharsAsciiCaseFold for a literal: w.Need( Literal, "branch" ). */
-inline KoInt Literal( const KoChar *chs, KoInt length, std::string_view literal )
+/** CharsAsciiCaseFold for a literal: w.Need( Literal, "branch" ). The first letter tells most others. */
+[[gnu::always_inline]] inline KoInt Literal( const KoChar *chs, KoInt length, std::string_view literal )
 {
+    if ( length > 0 && ( ( chs[0] ^ literal[0] ) & ~( 'a' ^ 'A' ) ) != 0 ) {
+        return 0;
+    }
     return AsciiCaseFold( chs, length, literal.data(), static_cast<KoInt>( literal.size() ) );
 }
 
@@ -350,12 +355,11 @@ inline KoInt Hostname( const KoChar *chs, KoInt length )
     if ( run == 0 || SeparatesLabels( chs[0] ) || chs[run - 1] == '-' || ( run < length && chs[run] == '%' ) ) {
         return Labels<true>( chs, length );
     }
+    KoChar least = 'a'; // of each two neighbours the greater
     for ( KoInt i = 1; i < run; ++i ) {
-        if ( SeparatesLabels( chs[i - 1] > chs[i] ? chs[i - 1] : chs[i] ) ) {
-            return Labels<true>( chs, length );
-        }
+        least = std::min( least, std::max( chs[i - 1], chs[i] ) );
     }
-    return run;
+    return SeparatesLabels( least ) ? Labels<true>( chs, length ) : run;
 }
 
 // IPv6reference = "[" IPv6address "]"

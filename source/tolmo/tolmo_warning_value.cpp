@@ -4,6 +4,7 @@
 #include <tolmo/tolmo_builder.hpp>
 #include <tolmo/tolmo_object.hpp>
 #include <tolmo/tolmo_quotable_string.h>
+#include <tolmo/tolmo_quotable_string.hpp>
 #include <tolmo/tolmo_skip.hpp>
 #include <tolmo/tolmo_warn_agent.h>
 #include <tolmo/tolmo_warn_code.h>
@@ -139,6 +140,6 @@ TolmoWarningValue tolmo___WarningValueTryDecode( const KoChar *chs, KoInt length
     if ( !w.Need( skip::Lws ) || !w.Need( skip::WarnText ) ) {
         return nullptr;
     }
-    auto warnText = tolmo::Adopt( tolmo___QuotableStringTryDecode( w.Last().chs, w.Last().length ) );
+    auto warnText = tolmo::DecodeQuoted( w.Last() );
     return Create( warnCode, warnAgent.Copy(), std::move( warnText ) );
 }
