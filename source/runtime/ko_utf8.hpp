@@ -7,7 +7,9 @@
 #include <bit>
 #include <cstring>
 
-#if defined( __SSE2__ )
+#if defined( __SSE4_1__ )
+#include <smmintrin.h>
+#elif defined( __SSE2__ )
 #include <emmintrin.h>
 #endif
 
@@ -47,22 +49,22 @@ inline KoInt AsciiLength( const uint8_t *bytes, KoInt length )
     return i;
 }
 
-#if defined( __SSE2__ )
+#if defined( __SSE4_1__ )
+/** Widens four bytes to characters. */
+inline void WidenFour( KoChar *to, const uint8_t *from )
+{
+    _mm_storeu_si128( reinterpret_cast<__m128i *>( to ), _mm_cvtepu8_epi32( _mm_loadu_si32( from ) ) );
+}
+
 /** Widens 16 bytes to characters, if all of them are ASCII; otherwise returns false. */
 inline bool WidenSixteen( KoChar *to, const uint8_t *from )
 {
-    const __m128i zero = _mm_setzero_si128();
-    const __m128i block = _mm_loadu_si128( reinterpret_cast<const __m128i *>( from ) );
-    if ( _mm_movemask_epi8( block ) ) {
+    if ( _mm_movemask_epi8( _mm_loadu_si128( reinterpret_cast<const __m128i *>( from ) ) ) ) {
         return false;
     }
-    const __m128i low = _mm_unpacklo_epi8( block, zero );
-    const __m128i high = _mm_unpackhi_epi8( block, zero );
-    auto *const out = reinterpret_cast<__m128i *>( to );
-    _mm_storeu_si128( out, _mm_unpacklo_epi16( low, zero ) );
-    _mm_storeu_si128( out + 1, _mm_unpackhi_epi16( low, zero ) );
-    _mm_storeu_si128( out + 2, _mm_unpacklo_epi16( high, zero ) );
-    _mm_storeu_si128( out + 3, _mm_unpackhi_epi16( high, zero ) );
+    for ( int i = 0; i < 16; i += 4 ) {
+        WidenFour( to + i, from + i );
+    }
     return true;
 }
 #endif
@@ -71,19 +73,16 @@ inline bool WidenSixteen( KoChar *to, const uint8_t *from )
 inline KoInt WidenAscii( KoChar *to, const uint8_t *from, KoInt length )
 {
     KoInt i = 0;
-#if defined( __SSE2__ )
-    const __m128i zero = _mm_setzero_si128();
+#if defined( __SSE4_1__ )
     while ( length - i >= 16 && WidenSixteen( to + i, from + i ) ) {
         i += 16;
     }
-    for ( ; length - i >= 4; i += 4 ) {
-        int four = 0;
+    for ( uint32_t four; length - i >= 4; i += 4 ) {
         memcpy( &four, from + i, sizeof four );
-        if ( four & static_cast<int>( 0x80808080 ) ) {
+        if ( four & 0x80808080 ) {
             break;
         }
-        const __m128i low = _mm_unpacklo_epi8( _mm_cvtsi32_si128( four ), zero );
-        _mm_storeu_si128( reinterpret_cast<__m128i *>( to + i ), _mm_unpacklo_epi16( low, zero ) );
+        WidenFour( to + i, from + i );
     }
 #else
     for ( uint64_t block; length - i >= 8; i += 8 ) {

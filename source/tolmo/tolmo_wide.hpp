@@ -48,7 +48,7 @@ private:
     /** Widen, in whole blocks as long as they are ASCII: the last one needs no steps of its own. */
     static KoInt WidenBlocks( KoChar *to, const uint8_t *bytes, KoInt length )
     {
-#if defined( __SSE2__ )
+#if defined( __SSE4_1__ )
         KoInt i = 0;
         while ( i < length && ko::WidenSixteen( to + i, bytes + i ) ) {
             i += wideStep;
