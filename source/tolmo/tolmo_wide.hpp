@@ -25,13 +25,11 @@ inline constexpr KoInt wideStep = 16;
 /** Characters for a while, of a piece of a decoded head: short ones need no block. */
 class Wide {
 public:
-    Wide( const uint8_t *bytes, KoInt length )
+    Wide( const uint8_t *bytes, KoInt length ) : text( here, length )
     {
-        KoChar *chs = here;
-        if ( length > mostHere ) {
-            chs = block = static_cast<KoChar *>( koMemAllocN( length + wideStep, sizeof( KoChar ) ) );
+        if ( length > mostHere || !WidenBlocks( bytes, length ) ) {
+            WidenAny( bytes, length );
         }
-        text = { chs, WidenBlocks( chs, bytes, length ) };
     }
     Wide( const Wide & ) = delete;
     Wide &operator=( const Wide & ) = delete;
@@ -45,19 +43,27 @@ public:
     [[nodiscard]] tolmo::Text Text() const { return text; }
 
 private:
-    /** Widen, in whole blocks as long as they are ASCII: the last one needs no steps of its own. */
-    static KoInt WidenBlocks( KoChar *to, const uint8_t *bytes, KoInt length )
+    /** Widens whole blocks, so that the last one needs no steps of its own, as long as they are ASCII. */
+    bool WidenBlocks( [[maybe_unused]] const uint8_t *bytes, [[maybe_unused]] KoInt length )
     {
 #if defined( __SSE4_1__ )
         KoInt i = 0;
-        while ( i < length && ko::WidenSixteen( to + i, bytes + i ) ) {
+        while ( i < length && ko::WidenSixteen( here + i, bytes + i ) ) {
             i += wideStep;
         }
-        if ( i >= length ) {
-            return length;
-        }
+        return i >= length;
+#else
+        return false;
 #endif
-        return Widen( to, bytes, length );
+    }
+
+    [[gnu::noinline]] void WidenAny( const uint8_t *bytes, KoInt length )
+    {
+        KoChar *to = here;
+        if ( length > mostHere ) {
+            to = block = static_cast<KoChar *>( koMemAllocN( length, sizeof( KoChar ) ) );
+        }
+        text = { to, Widen( to, bytes, length ) };
     }
 
     static constexpr KoInt mostHere = 256;
