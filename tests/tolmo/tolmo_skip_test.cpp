@@ -1576,6 +1576,7 @@ const Reference references[] = {
     { SKIP( Host ), []( const std::u32string &text ) { return Longest( IsHost, text ); }, U"a4..--%_Z" },
     { SKIP( Host ), []( const std::u32string &text ) { return Longest( IsHost, text ); }, U"[:::1f.]" },
     { SKIP( Hostname ), []( const std::u32string &text ) { return Longest( IsHostname, text ); }, U"a.-%4f" },
+    { SKIP( Hostname ), []( const std::u32string &text ) { return Longest( IsHostname, text ); }, U"aaaa0099zzZZ.-%" },
     { SKIP( DotAtom ), []( const std::u32string &text ) { return Longest( IsDotAtom, text ); }, U"a..~@ \u00E9" },
     { SKIP( EventType ), []( const std::u32string &text ) { return Longest( IsDotAtom, text ); }, U"1..%;" },
     { SKIP( HistoryInfoIndex ), HistoryInfoIndexOf, U"0017.. x" },
