@@ -294,7 +294,8 @@ bool BeginsEncodedLabel( const KoChar *chs, KoInt length, KoInt at )
 bool HasEncodedLabel( const KoChar *chs, KoInt length )
 {
     for ( KoInt i = 3; i < length; i += 2 ) {
-        if ( chs[i] == '-' && ( BeginsEncodedLabel( chs, length, i - 3 ) || BeginsEncodedLabel( chs, length, i - 2 ) ) ) {
+        if ( chs[i] == '-' &&
+             ( BeginsEncodedLabel( chs, length, i - 3 ) || BeginsEncodedLabel( chs, length, i - 2 ) ) ) {
             return true;
         }
     }

@@ -160,10 +160,9 @@ bool TakeParam( tolmo::Walk &w, TolmoReason reason )
 {
     return tolmo::TakeLifted( w, "cause", skip::ReasonCause,
                               [=]( tolmo::Text value ) { return tolmo::StoreText( reason->cause, value ); } ) ||
-           tolmo::TakeLifted( w, "text", skip::ReasonText,
-                              [=]( tolmo::Text value ) {
-                                  return tolmo::StoreGood( reason->text, tolmo::DecodeQuoted( value ) );
-                              } ) ||
+           tolmo::TakeLifted(
+               w, "text", skip::ReasonText,
+               [=]( tolmo::Text value ) { return tolmo::StoreGood( reason->text, tolmo::DecodeQuoted( value ) ); } ) ||
            tolmo::TakeGeneric( w, reason->genericParams );
 }
 

@@ -285,9 +285,9 @@ TEST_F( WenDns, ToUnicodeKeepsWhatItCannotConvert )
     EXPECT_EQ( ToUnicode( "XN--BCHER-KVA" ), "b\u00FCcher" ); // ASCII case aside
     EXPECT_EQ( ToUnicode( "Example.Xn--bChEr-kVA.COM." ), "example.b\u00FCcher.com." );
     EXPECT_EQ( ToUnicode( "www.xn--strae-oqa.de" ), "www.stra\u00DFe.de" );
-    for ( const std::string before : { "", "a.", "ab.", "abc.", "a-b.", "abcd.e." } ) {
-        EXPECT_EQ( ToUnicode( before + "xn--bcher-kva" ), before + "b\u00FCcher" ) << "wherever the label begins";
-        EXPECT_EQ( ToUnicode( before + "0xn--bcher-kva" ), before + "0xn--bcher-kva" );
+    for ( const std::string front : { "", "a.", "ab.", "abc.", "a-b.", "abcd.e." } ) {
+        EXPECT_EQ( ToUnicode( front + "xn--bcher-kva" ), front + "b\u00FCcher" ) << "wherever the label begins";
+        EXPECT_EQ( ToUnicode( front + "0xn--bcher-kva" ), front + "0xn--bcher-kva" );
     }
 }
 
