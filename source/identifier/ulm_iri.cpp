@@ -3,72 +3,51 @@
 
 #include <address/wen_address.h>
 #include <identifier/ulm_iri.hpp>
+#include <runtime/ko_ascii_set.hpp>
 #include <runtime/ko_inner.hpp>
 #include <runtime/ko_string.h>
 
 #include <bit>
 #include <utility>
 
-#if defined( __SSE2__ )
-#include <emmintrin.h>
-#endif
-
 namespace ulm {
 namespace {
 
-/** What stands in a block of characters, a bit for each: the lowest for the first. */
-struct Marks {
-    static constexpr KoInt most = 16; // characters
-
-    uint32_t others = 0; // all that are not plain, and maybe some that are
-    uint32_t hyphens = 0;
-
-    /** The same without the first characters of the block. */
-    [[nodiscard]] Marks Behind( KoInt count ) const { return { others >> count, hyphens >> count }; }
-};
-
-/** The marks of a block, which may be shorter. */
-[[gnu::noinline]] Marks ReadMarks( const KoChar *chs, KoInt length )
+consteval ko::AsciiSet MakePlainSet()
 {
-    Marks marks;
+    ko::AsciiSet set;
+    for ( size_t ch = 0; ch < charTable.size(); ++ch ) {
+        if ( ( charTable[ch] & charPlain ) != 0 && ch != '-' ) {
+            set.Add( static_cast<KoChar>( ch ) );
+        }
+    }
+    return set;
+}
+
+/** The characters that are taken without a look: the plain ones but the hyphen, as two of them may tell something. */
+constexpr ko::AsciiSet plainSet = MakePlainSet();
+
+constexpr KoInt block = 16; // characters
+
+/** The same for a block of a text that is shorter than a whole one. */
+[[gnu::noinline]] uint32_t OthersOfShort( const KoChar *chs, KoInt length )
+{
+    uint32_t others = 0;
     for ( KoInt i = 0; i < length; ++i ) {
-        marks.others |= static_cast<uint32_t>( !Is( chs[i], charPlain ) ) << i;
-        marks.hyphens |= static_cast<uint32_t>( chs[i] == '-' ) << i;
+        others |= static_cast<uint32_t>( !plainSet.Has( chs[i] ) ) << i;
     }
-    return marks;
+    return others;
 }
 
-/** The marks of a whole block. */
-inline Marks ReadMarks( const KoChar *chs )
+/** A bit for each character that is not in the set, in the first block of the last `rest` characters of a text. */
+inline uint32_t Others( const KoChar *chs, KoInt length, KoInt rest )
 {
-#if defined( __SSE2__ )
-    const auto load = [&]( int i ) { return _mm_loadu_si128( reinterpret_cast<const __m128i *>( chs ) + i ); };
-    // What is no ASCII character becomes a byte that is none either, or NUL.
-    const __m128i bytes =
-        _mm_packus_epi16( _mm_packs_epi32( load( 0 ), load( 1 ) ), _mm_packs_epi32( load( 2 ), load( 3 ) ) );
-    const auto among = []( __m128i of, char first, char last ) {
-        const __m128i up = _mm_add_epi8( of, _mm_set1_epi8( static_cast<char>( 0x7F - last ) ) );
-        return _mm_cmpgt_epi8( up, _mm_set1_epi8( static_cast<char>( 0x7F - last + first - 1 ) ) );
-    };
-    const auto bits = []( __m128i of ) { return static_cast<uint32_t>( _mm_movemask_epi8( of ) ); };
-    const __m128i letters = among( _mm_or_si128( bytes, _mm_set1_epi8( 0x20 ) ), 'a', 'z' );
-    const __m128i common = among( bytes, '&', ';' );
-    const __m128i equals = _mm_cmpeq_epi8( bytes, _mm_set1_epi8( '=' ) );
-    return { bits( _mm_or_si128( _mm_or_si128( letters, common ), equals ) ) ^ 0xFFFF,
-             bits( _mm_cmpeq_epi8( bytes, _mm_set1_epi8( '-' ) ) ) };
-#else
-    return ReadMarks( chs, Marks::most );
-#endif
-}
-
-/** The marks of the first block of the last `rest` characters of a text. */
-inline Marks ReadMarks( const KoChar *chs, KoInt length, KoInt rest )
-{
-    if ( rest >= Marks::most ) {
-        return ReadMarks( chs + length - rest );
+    constexpr uint32_t whole = 0xFFFF;
+    if ( rest >= block ) {
+        return plainSet.Others<block>( chs + length - rest ) & whole;
     }
-    return length >= Marks::most ? ReadMarks( chs + length - Marks::most ).Behind( Marks::most - rest )
-                                 : ReadMarks( chs + length - rest, rest );
+    return length >= block ? ( plainSet.Others<block>( chs + length - block ) & whole ) >> ( block - rest )
+                           : OthersOfShort( chs + length - rest, rest );
 }
 
 /** The length of the scheme at the start of a text that has a colon behind it; 0 if there is none. */
@@ -88,7 +67,7 @@ inline KoInt SchemeLength( const KoChar *chs, KoInt length )
     return i < length && chs[i] == ':' ? i : 0;
 }
 
-/** Takes a character of an identifier that may be not plain; false when it ends the identifier. */
+/** Takes a character of an identifier that is not in the set; false when it ends the identifier. */
 [[gnu::noinline]] bool Take( const KoChar *chs, KoInt length, KoInt at, Iri &iri )
 {
     const KoChar ch = chs[at];
@@ -113,21 +92,19 @@ inline KoInt SchemeLength( const KoChar *chs, KoInt length )
         }
         iri.asciiEscapes = iri.asciiEscapes && chs[at + 1] < '8';
         return true;
+    case '-':
+        iri.hyphens = iri.hyphens || chs[at - 1] == '-'; // in front there is a colon at least
+        return true;
     default:
-        return Is( ch, charPlain );
+        return false;
     }
 }
 
 /** Takes all of an identifier behind its colon; returns where it ends. */
 inline KoInt TakeRest( const KoChar *chs, KoInt length, Iri &iri )
 {
-    for ( KoInt rest = length - iri.colon - 1; rest > 0; rest -= Marks::most ) {
-        const Marks marks = ReadMarks( chs, length, rest );
-        constexpr uint32_t before = 1; // in front of the block there may be another
-        if ( ( marks.hyphens & ( marks.hyphens << 1 | before ) ) != 0 ) {
-            iri.hyphens = true;
-        }
-        for ( uint32_t others = marks.others; others != 0; others &= others - 1 ) {
+    for ( KoInt rest = length - iri.colon - 1; rest > 0; rest -= block ) {
+        for ( uint32_t others = Others( chs, length, rest ); others != 0; others &= others - 1 ) {
             const KoInt place = length - rest + std::countr_zero( others );
             if ( !Take( chs, length, place, iri ) ) {
                 return place;

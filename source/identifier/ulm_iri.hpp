@@ -73,7 +73,7 @@ struct Iri {
     bool secondAt = false;
     bool ascii = true;        // no other character
     bool asciiEscapes = true; // and none that is escaped
-    bool hyphens = false;     // there may be two in a row, as in an xn-- label
+    bool hyphens = false;     // there are two in a row, as in an xn-- label
     bool query = false;
     bool fragment = false;
 };

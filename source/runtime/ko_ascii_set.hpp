@@ -30,11 +30,11 @@ struct AsciiSet {
         return static_cast<uint32_t>( ch ) < 0x80 && ( high[ch & 0xF] >> ( ch >> 4 ) & 1 ) != 0;
     }
 
-#if defined( __SSSE3__ )
     /** A bit for each of 8 or 16 characters that is no member, and all bits above. */
     template <int count>
     [[nodiscard]] unsigned Others( const KoChar *chs ) const
     {
+#if defined( __SSSE3__ )
         const auto eight = [in = reinterpret_cast<const __m128i *>( chs )]( int at ) {
             return _mm_packs_epi32( _mm_loadu_si128( in + at ), _mm_loadu_si128( in + at + 1 ) );
         };
@@ -47,8 +47,14 @@ struct AsciiSet {
                            _mm_shuffle_epi8( bits, highs ) );
         return static_cast<unsigned>( _mm_movemask_epi8( _mm_cmpeq_epi8( found, _mm_setzero_si128() ) ) ) |
                ~0U << count;
-    }
+#else
+        unsigned others = ~0U << count;
+        for ( int i = 0; i < count; ++i ) {
+            others |= static_cast<unsigned>( !Has( chs[i] ) ) << i;
+        }
+        return others;
 #endif
+    }
 };
 
 /** How many members stand at the start of a text. */
