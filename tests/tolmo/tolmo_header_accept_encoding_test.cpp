@@ -21,7 +21,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderAcceptEncoding, ValueList, Member );
 
 KoRef<TolmoHeaderAcceptEncoding> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderAcceptEncodingTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderAcceptEncodingTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )

@@ -30,7 +30,7 @@ List ListOf( std::initializer_list<std::string_view> ranges )
 
 List Decode( const Strings &lines )
 {
-    return Own( tolmoHeaderAcceptTryDecode( test::NewHeader( "Accept", lines ).Get() ) );
+    return Own( tolmoHeaderAcceptTryDecode( test::RawHeader( "Accept", lines ).Get() ) );
 }
 
 Strings Items( const List &hdr )
@@ -58,7 +58,7 @@ TEST_F( HeaderAccept, RefusesItsOwnLines )
         EXPECT_FALSE( Decode( { "", line } ) ) << line;
         EXPECT_FALSE( Decode( { line, "" } ) ) << line;
     }
-    const auto received = test::ReceivedRequest( "Accept: application/sdp\r\n" );
+    const auto received = test::Received( "Accept: application/sdp\r\n" );
     EXPECT_TRUE( tolmoHeaderAcceptPresentInMessage( received.Get() ) );
     EXPECT_TRUE( test::IsNull( tolmoHeaderAcceptTryDecodeFromMessage( received.Get() ) ) );
 
@@ -76,7 +76,7 @@ TEST_F( HeaderAccept, EmptyLinesAndNoLines )
         ASSERT_TRUE( hdr );
         EXPECT_EQ( tolmoHeaderAcceptAcceptsLength( hdr.Get() ), 0 );
     }
-    const auto received = test::ReceivedRequest( "Accept:\r\n" );
+    const auto received = test::Received( "Accept:\r\n" );
     const auto hdr = Own( tolmoHeaderAcceptTryDecodeFromMessage( received.Get() ) );
     ASSERT_TRUE( hdr );
     EXPECT_EQ( tolmoHeaderAcceptAcceptsLength( hdr.Get() ), 0 );
@@ -142,7 +142,7 @@ TEST_F( HeaderAccept, Compare )
 
 TEST_F( HeaderAccept, InMessage )
 {
-    auto msg = test::ReceivedRequest( "Accept: x/x, y/y\r\nX-B: 2\r\n" );
+    auto msg = test::Received( "Accept: x/x, y/y\r\nX-B: 2\r\n" );
     const auto other = KoRef<TolmoMessage>::Share( msg.Get() );
     tolmoHeaderAcceptEncodeToMessage( ListOf( { "a/a", "b/b" } ).Get(), msg.Address() );
     EXPECT_NE( msg.Get(), other.Get() );
@@ -160,11 +160,11 @@ TEST_F( HeaderAccept, InMessage )
 TEST_F( HeaderAccept, Aborts )
 {
     auto hdr = ListOf( { "a/a", "b/b" } );
-    auto msg = test::ReceivedRequest( "" );
+    auto msg = test::Received( "" );
     TolmoHeaderAccept none = nullptr;
     TolmoMessage noMessage = nullptr;
     EXPECT_ABORT( tolmoHeaderAcceptEncode( nullptr ), path, "hdr" );
-    EXPECT_ABORT( tolmoHeaderAcceptTryDecode( test::NewHeader( "Accept-Encoding", {} ).Get() ), path,
+    EXPECT_ABORT( tolmoHeaderAcceptTryDecode( test::RawHeader( "Accept-Encoding", {} ).Get() ), path,
                   "tolmoMessageHeaderNameEquals( header, tolmo___KosAccept )" );
     EXPECT_ABORT( tolmoHeaderAcceptEncodeToMessage( nullptr, nullptr ), path, "hdr" );
     EXPECT_ABORT( tolmoHeaderAcceptEncodeToMessage( hdr.Get(), nullptr ), path, "msg" );

@@ -21,7 +21,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderAlertInfo, ValueList, Member );
 
 KoRef<TolmoHeaderAlertInfo> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderAlertInfoTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderAlertInfoTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )

@@ -21,7 +21,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderCallInfo, ValueList, Member );
 
 KoRef<TolmoHeaderCallInfo> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderCallInfoTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderCallInfoTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )

@@ -20,15 +20,14 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderContact, ValueList, Member );
 
 KoRef<TolmoHeaderContact> Decode( const test::Strings &lines )
 {
-    const auto header = test::NewHeader( Member::header, lines );
+    const auto header = test::RawHeader( Member::header, lines );
     return KoRef<TolmoHeaderContact>::Adopt( tolmoHeaderContactTryDecode( header.Get() ) );
 }
 
 test::Strings Items( const test::Strings &lines )
 {
     const auto hdr = Decode( lines );
-    return hdr ? test::LinesOf( KoRef<TolmoMessageHeader>::Adopt( tolmoHeaderContactEncode( hdr.Get() ) ).Get() )
-               : test::Strings{ "(null)" };
+    return test::TakeLines( hdr ? tolmoHeaderContactEncode( hdr.Get() ) : nullptr );
 }
 
 bool IsStar( const KoRef<TolmoHeaderContact> &hdr )
@@ -159,7 +158,7 @@ TEST_F( HeaderContact, WhatEndsTheStarForm )
 
 TEST_F( HeaderContact, StarInMessageAndStore )
 {
-    auto msg = test::ReceivedRequest( "m: *\r\n" );
+    auto msg = test::Received( "m: *\r\n" );
     const auto received = KoRef<TolmoHeaderContact>::Adopt( tolmoHeaderContactTryDecodeFromMessage( msg.Get() ) );
     EXPECT_TRUE( IsStar( received ) );
     tolmoHeaderContactRemoveFromMessage( msg.Address() );

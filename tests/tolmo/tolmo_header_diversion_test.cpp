@@ -22,7 +22,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderDiversion, ValueList, Member );
 
 KoRef<TolmoHeaderDiversion> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderDiversionTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderDiversionTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )
@@ -81,7 +81,7 @@ TEST_F( HeaderDiversion, TestsLines )
     auto hdr = Decode( { "<sip:b>" } );
     tolmoHeaderDiversionAppendDiversion( hdr.Address(), diversion.Get() );
     EXPECT_EQ( tolmoHeaderDiversionDiversionsLength( hdr.Get() ), 2 );
-    auto msg = test::ReceivedRequest( "" );
+    auto msg = test::Received( "" );
     const char path[] = "source/tolmo/tolmo_message_header.cpp";
     const char expression[] = "tolmoMessageHeaderLineOk( value )";
     EXPECT_ABORT( tolmoHeaderDiversionEncode( hdr.Get() ), path, expression );

@@ -21,7 +21,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderErrorInfo, ValueList, Member );
 
 KoRef<TolmoHeaderErrorInfo> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderErrorInfoTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderErrorInfoTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )

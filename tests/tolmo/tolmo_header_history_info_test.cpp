@@ -22,7 +22,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderHistoryInfo, ValueList, Member );
 
 KoRef<TolmoHeaderHistoryInfo> Decode( const Strings &lines )
 {
-    return test::Own( tolmoHeaderHistoryInfoTryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+    return test::Own( tolmoHeaderHistoryInfoTryDecode( test::RawHeader( Member::header, lines ).Get() ) );
 }
 
 Strings Items( const Strings &lines )

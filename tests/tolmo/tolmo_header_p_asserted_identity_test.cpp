@@ -19,16 +19,14 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderPAssertedIdentity, ValueList, Member );
 
 KoRef<TolmoHeaderPAssertedIdentity> Decode( const test::Strings &lines )
 {
-    const auto header = test::NewHeader( Member::header, lines );
+    const auto header = test::RawHeader( Member::header, lines );
     return KoRef<TolmoHeaderPAssertedIdentity>::Adopt( tolmoHeaderPAssertedIdentityTryDecode( header.Get() ) );
 }
 
 test::Strings Items( const test::Strings &lines )
 {
     const auto hdr = Decode( lines );
-    return hdr ? test::LinesOf(
-                     KoRef<TolmoMessageHeader>::Adopt( tolmoHeaderPAssertedIdentityEncode( hdr.Get() ) ).Get() )
-               : test::Strings{ "(null)" };
+    return test::TakeLines( hdr ? tolmoHeaderPAssertedIdentityEncode( hdr.Get() ) : nullptr );
 }
 
 class HeaderPAssertedIdentity : public test::TolmoFixture {};

@@ -19,16 +19,14 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderPPreferredIdentity, ValueList, Member );
 
 KoRef<TolmoHeaderPPreferredIdentity> Decode( const test::Strings &lines )
 {
-    const auto header = test::NewHeader( Member::header, lines );
+    const auto header = test::RawHeader( Member::header, lines );
     return KoRef<TolmoHeaderPPreferredIdentity>::Adopt( tolmoHeaderPPreferredIdentityTryDecode( header.Get() ) );
 }
 
 test::Strings Items( const test::Strings &lines )
 {
     const auto hdr = Decode( lines );
-    return hdr ? test::LinesOf(
-                     KoRef<TolmoMessageHeader>::Adopt( tolmoHeaderPPreferredIdentityEncode( hdr.Get() ) ).Get() )
-               : test::Strings{ "(null)" };
+    return test::TakeLines( hdr ? tolmoHeaderPPreferredIdentityEncode( hdr.Get() ) : nullptr );
 }
 
 class HeaderPPreferredIdentity : public test::TolmoFixture {};

@@ -20,15 +20,14 @@ INSTANTIATE_TYPED_TEST_SUITE_P( HeaderVia, ValueList, Member );
 
 KoRef<TolmoHeaderVia> Decode( const test::Strings &lines )
 {
-    const auto header = test::NewHeader( Member::header, lines );
+    const auto header = test::RawHeader( Member::header, lines );
     return KoRef<TolmoHeaderVia>::Adopt( tolmoHeaderViaTryDecode( header.Get() ) );
 }
 
 test::Strings Items( const test::Strings &lines )
 {
     const auto hdr = Decode( lines );
-    return hdr ? test::LinesOf( KoRef<TolmoMessageHeader>::Adopt( tolmoHeaderViaEncode( hdr.Get() ) ).Get() )
-               : test::Strings{ "(null)" };
+    return test::TakeLines( hdr ? tolmoHeaderViaEncode( hdr.Get() ) : nullptr );
 }
 
 class HeaderVia : public test::TolmoFixture {};
@@ -66,8 +65,8 @@ TEST_F( HeaderVia, WithoutLines )
     const auto hdr = Decode( {} );
     ASSERT_TRUE( hdr );
     EXPECT_EQ( tolmoHeaderViaViasLength( hdr.Get() ), 0 );
-    auto msg = test::ReceivedRequest( "" );
-    tolmoMessageSetHeader( msg.Address(), test::NewHeader( "Via", {} ).Get() );
+    auto msg = test::Received( "" );
+    tolmoMessageSetHeader( msg.Address(), test::RawHeader( "Via", {} ).Get() );
     EXPECT_TRUE( tolmoHeaderViaPresentInMessage( msg.Get() ) );
     EXPECT_EQ( tolmoHeaderViaTryDecodeFromMessage( msg.Get() ), nullptr ); // its decoder is not asked
 }
@@ -97,7 +96,7 @@ TEST_F( HeaderVia, SnapshotOfTheValue )
 // The stack of a proxy: the compact name is the same header, the top item is the first of the first line.
 TEST_F( HeaderVia, PushAndPop )
 {
-    auto msg = test::ReceivedRequest( "v: SIP/2.0/UDP b;branch=1, SIP/2.0/UDP c\r\nVIA: SIP/2.0/TCP d\r\n" );
+    auto msg = test::Received( "v: SIP/2.0/UDP b;branch=1, SIP/2.0/UDP c\r\nVIA: SIP/2.0/TCP d\r\n" );
     auto hdr = KoRef<TolmoHeaderVia>::Adopt( tolmoHeaderViaTryDecodeFromMessage( msg.Get() ) );
     ASSERT_EQ( tolmoHeaderViaViasLength( hdr.Get() ), 3 );
     const auto own = test::DecodeWith( tolmo___ViaTryDecode, "SIP/2.0/TLS a;branch=0" );

@@ -55,11 +55,17 @@ inline KoRef<TolmoMessageHeader> RawHeader( std::string_view name, const Strings
     return header;
 }
 
+/** The lines of a raw header. */
+inline Strings LinesOf( TolmoMessageHeader header )
+{
+    return TakeStrings( tolmoMessageHeaderLinesVector( header ) );
+}
+
 /** The lines of a raw header that is released; one line "(null)" for null. */
 inline Strings TakeLines( TolmoMessageHeader header )
 {
     const auto owned = Own( header );
-    return header ? TakeStrings( tolmoMessageHeaderLinesVector( header ) ) : Strings{ "(null)" };
+    return header ? LinesOf( header ) : Strings{ "(null)" };
 }
 
 /** A request as it was received, with these headers: each line with its line end. */

@@ -1,4 +1,4 @@
-/* What tests of types share: decoders on exact blocks, raw headers and requests, the standard operations. */
+/* What tests of types share: decoders on exact blocks, names of raw headers, the standard operations. */
 #ifndef TOLMO_TYPE_TEST_H
 #define TOLMO_TYPE_TEST_H
 
@@ -6,39 +6,10 @@
 
 namespace test {
 
-using Strings = std::vector<std::string>;
-
-/** A raw header with some lines. */
-inline KoRef<TolmoMessageHeader> NewHeader( std::string_view name, const Strings &lines )
-{
-    auto header = KoRef<TolmoMessageHeader>::Adopt( tolmoMessageHeaderCreate( Str( name ).Get() ) );
-    for ( const auto &line : lines ) {
-        tolmoMessageHeaderAppendLine( header.Address(), Str( line ).Get() );
-    }
-    return header;
-}
-
 /** The name of a raw header. */
 inline std::string NameOf( TolmoMessageHeader header )
 {
     return Take( tolmoMessageHeaderName( header ) );
-}
-
-/** The lines of a raw header. */
-inline Strings LinesOf( TolmoMessageHeader header )
-{
-    Strings lines;
-    for ( KoInt i = 0; i < tolmoMessageHeaderLinesLength( header ); ++i ) {
-        lines.push_back( Take( tolmoMessageHeaderLineAt( header, i ) ) );
-    }
-    return lines;
-}
-
-/** A request as it is received, with some header lines, each with its CR LF. */
-inline KoRef<TolmoMessage> ReceivedRequest( std::string_view headerLines )
-{
-    const auto bytes = "INVITE sip:b SIP/2.0\r\n" + std::string( headerLines ) + "\r\n";
-    return KoRef<TolmoMessage>::Adopt( tolmoMessageTryDecode( Buf( bytes ).Get() ) );
 }
 
 /** What a decoder makes of a text, in a block of exactly its size. */

@@ -62,7 +62,7 @@ protected:
 
     static ListOf<Member> Decode( const test::Strings &lines )
     {
-        return ListOf<Member>::Adopt( Member::TryDecode( test::NewHeader( Member::header, lines ).Get() ) );
+        return ListOf<Member>::Adopt( Member::TryDecode( test::RawHeader( Member::header, lines ).Get() ) );
     }
 
     static ListOf<Member> TryDecodeFrom( const KoRef<TolmoMessage> &msg )
@@ -132,7 +132,7 @@ TYPED_TEST_P( ValueList, Lines )
         for ( const auto &line : row.lines ) {
             received += this->HeaderName() + ":" + line + "\r\n";
         }
-        const auto msg = test::ReceivedRequest( received );
+        const auto msg = test::Received( received );
         const bool trimmed = row.lines.back().empty() || row.lines.back().back() != ' ';
         ASSERT_TRUE( msg ) << received;
         if ( trimmed ) { // a message trims its lines
@@ -358,7 +358,7 @@ TYPED_TEST_P( ValueList, TextsCount )
 
 TYPED_TEST_P( ValueList, OtherName )
 {
-    EXPECT_ABORT( TypeParam::TryDecode( test::NewHeader( "X-Other", { this->Item( 0 ) } ).Get() ), TypeParam::path,
+    EXPECT_ABORT( TypeParam::TryDecode( test::RawHeader( "X-Other", { this->Item( 0 ) } ).Get() ), TypeParam::path,
                   TypeParam::isHeader );
     EXPECT_ABORT( TypeParam::TryDecode( nullptr ), "source/tolmo/tolmo_message_header.cpp", "header" );
     EXPECT_ABORT( TypeParam::Encode( nullptr ), TypeParam::path, "hdr" );
@@ -367,7 +367,7 @@ TYPED_TEST_P( ValueList, OtherName )
     for ( char &ch : shout ) {
         ch = static_cast<char>( std::toupper( static_cast<unsigned char>( ch ) ) );
     }
-    const auto header = test::NewHeader( shout, { this->Item( 0 ) } );
+    const auto header = test::RawHeader( shout, { this->Item( 0 ) } );
     const auto hdr = ListOf<TypeParam>::Adopt( TypeParam::TryDecode( header.Get() ) );
     EXPECT_EQ( TypeParam::Length( hdr.Get() ), 1 );
 }
@@ -378,8 +378,7 @@ TYPED_TEST_P( ValueList, InMessage )
     const std::string a = this->Item( 0 );
     const std::string b = this->Item( 1 );
     const std::string c = this->Item( 2 );
-    auto msg =
-        test::ReceivedRequest( "X-A: 1\r\n" + name + ": " + a + ", " + b + "\r\nX-B: 2\r\n" + name + ":" + c + "\r\n" );
+    auto msg = test::Received( "X-A: 1\r\n" + name + ": " + a + ", " + b + "\r\nX-B: 2\r\n" + name + ":" + c + "\r\n" );
     EXPECT_TRUE( TypeParam::PresentInMessage( msg.Get() ) );
     auto hdr = this->TryDecodeFrom( msg );
     EXPECT_EQ( this->LinesOf( hdr ), ( test::Strings{ a, b, c } ) );
@@ -413,7 +412,7 @@ TYPED_TEST_P( ValueList, InMessage )
     EXPECT_TRUE( TypeParam::PresentInMessage( other.Get() ) );
 
     // Present does not promise that it decodes.
-    const auto bad = test::ReceivedRequest( name + ": ,\r\n" );
+    const auto bad = test::Received( name + ": ,\r\n" );
     EXPECT_TRUE( TypeParam::PresentInMessage( bad.Get() ) );
     EXPECT_FALSE( this->TryDecodeFrom( bad ) );
 
@@ -456,7 +455,7 @@ TYPED_TEST_P( ValueList, Huge )
 {
     constexpr int count = 100000;
     std::string line;
-    auto header = test::NewHeader( TypeParam::header, {} );
+    auto header = test::RawHeader( TypeParam::header, {} );
     const auto item = test::Str( this->Item( 0 ) );
     for ( int i = 0; i < count; ++i ) {
         line += ( i ? ", " : "" ) + this->Item( 0 );
