@@ -44,7 +44,7 @@ endif()
 # archive would bind its users to this compiler.
 include( CheckIPOSupported )
 if( BUILD_SHARED_LIBS AND NOT TOLMO_SANITIZE AND NOT TOLMO_COVERAGE )
-    check_ipo_supported( RESULT tolmo_whole OUTPUT tolmo_whole_not LANGUAGES CXX )
+    check_ipo_supported( RESULT tolmo_whole LANGUAGES CXX )
 endif()
 
 # tolmo_library( NAME FOLDER DESCRIPTION NEEDS... ): libNAME from source/FOLDER, on the libraries NEEDS.

@@ -29,7 +29,7 @@ constexpr ko::AsciiSet plainSet = MakePlainSet();
 
 constexpr KoInt block = 16; // characters
 
-/** The same for a block of a text that is shorter than a whole one. */
+/** A bit for each character that is not in the set, of a text that is shorter than a block. */
 [[gnu::noinline]] uint32_t OthersOfShort( const KoChar *chs, KoInt length )
 {
     uint32_t others = 0;
@@ -39,7 +39,7 @@ constexpr KoInt block = 16; // characters
     return others;
 }
 
-/** A bit for each character that is not in the set, in the first block of the last `rest` characters of a text. */
+/** The same, of the first block of the last `rest` characters of a text. */
 inline uint32_t Others( const KoChar *chs, KoInt length, KoInt rest )
 {
     constexpr uint32_t whole = 0xFFFF;

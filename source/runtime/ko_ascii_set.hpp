@@ -14,7 +14,7 @@ namespace ko {
 
 /**
  * A set of ASCII characters, as the processor likes it: for each low half of a code, a bit for each of the eight high
- * halves with which it makes a member. So two looks into tables of 16 bytes, eight characters at a time, tell the members.
+ * halves with which it makes a member. So two looks into tables of 16 bytes, 16 characters at a time, tell the members.
  */
 struct AsciiSet {
     alignas( 16 ) uint8_t high[16]{};
@@ -68,7 +68,7 @@ inline KoInt RunOf( const AsciiSet &set, const KoChar *chs, KoInt length )
             return taken + std::countr_zero( others );
         }
     }
-    // At the end as many once more, of which the first are known.
+    // The last ones once more, of which the first are known: in place of them, the bits above come in.
     if ( taken > 0 ) {
         return taken + std::countr_zero( set.Others<16>( chs + length - 16 ) >> ( 16 - ( length - taken ) ) );
     }

@@ -186,6 +186,22 @@ TEST_F( HeaderScalars, StringSet )
     }
 }
 
+// Lines are widened in blocks, which may reach into what stands behind them, and long ones elsewhere than short ones.
+TEST_F( HeaderScalars, LinesOfEveryLength )
+{
+    for ( size_t length = 1; length <= 300; ++length ) {
+        const std::string ascii( length, 'a' );
+        for ( const std::string &value : { ascii, ascii + "\u00E9", "\u00E9" + ascii } ) {
+            for ( const std::string behind : { "", "X: b\r\n", "X: \u00E9\r\n" } ) {
+                const auto msg = test::Received( "Subject: " + value + "\r\n" + behind );
+                const auto subject = test::Own( tolmoHeaderSubjectTryDecodeFromMessage( msg.Get() ) );
+                ASSERT_TRUE( subject ) << value;
+                ASSERT_EQ( test::Take( tolmoHeaderSubjectSubject( subject.Get() ) ), value ) << behind;
+            }
+        }
+    }
+}
+
 TEST_F( HeaderScalars, StringAborts )
 {
     for ( const auto *header : { &headerOfCallId, &headerOfServer, &headerOfTimestamp, &headerOfUserAgent } ) {
